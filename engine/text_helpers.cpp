@@ -1,0 +1,112 @@
+#include "engine/text_helpers.h"
+
+#include "engine/failure.h"
+#include "platform/letter_case.h"
+
+namespace quenloft {
+
+namespace {
+
+bool IsCapital(std::string_view text, std::size_t index) {
+    return index < text.size() && text[index] >= 'A' && text[index] <= 'Z';
+}
+
+/// The file name without one leading "~" and without the extension from the last "." on.
+std::string_view NameForCase(std::string_view path) {
+    std::string_view name = FileName(path);
+    if (name.starts_with('~')) {
+        name.remove_prefix(1);
+    }
+    return name.substr(0, name.rfind('.'));
+}
+
+std::string ApplyCaseOfName(std::string_view name, std::string text) {
+    if (!IsCapital(name, 0)) {
+        return text;
+    }
+    if (IsCapital(name, 1)) {
+        return UpperCase(text);
+    }
+    return IsCapital(name, name.size() - 1) ? CapitaliseWords(text) : UpperCaseFirst(text);
+}
+
+}  // namespace
+
+bool IsCommentLine(std::string_view line) { return line.starts_with(';'); }
+
+bool IsEmptyLine(std::string_view line) { return line.empty(); }
+
+std::string_view Trimmed(std::string_view text) {
+    const std::size_t first = text.find_first_not_of(' ');
+    if (first == std::string_view::npos) {
+        return {};
+    }
+    return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+bool StartsWithTrimmed(std::string_view text, std::string_view prefix) {
+    return Trimmed(text).starts_with(Trimmed(prefix));
+}
+
+bool HasDrive(std::string_view path) { return path.size() >= 3 && path.substr(1, 2) == ":\\"; }
+
+std::string_view DriveLetter(std::string_view path) { return path.substr(0, 1); }
+
+std::string_view DirectoryPart(std::string_view path) {
+    const std::size_t separator = path.rfind('\\');
+    return separator == std::string_view::npos ? std::string_view{} : path.substr(0, separator);
+}
+
+std::string_view FileName(std::string_view path) {
+    const std::size_t separator = path.rfind('\\');
+    return separator == std::string_view::npos ? path : path.substr(separator + 1);
+}
+
+std::string_view FileBaseName(std::string_view path) {
+    const std::string_view name = FileName(path);
+    return name.substr(0, name.find('.'));
+}
+
+std::string_view FileExtension(std::string_view path) {
+    const std::string_view name = FileName(path);
+    const std::size_t dot = name.find('.');
+    return dot == std::string_view::npos ? name : name.substr(dot + 1);
+}
+
+std::string CapitaliseWords(std::string_view text) {
+    if (text.empty()) {
+        throw Failure(FailureNumber::InvalidArgument);
+    }
+    if (text.find(' ') == std::string_view::npos) {
+        return UpperCaseFirst(text);
+    }
+    std::string result;
+    result.reserve(text.size());
+    bool atWordStart = true;
+    while (!text.empty()) {
+        const char32_t letter = TakeLetter(text);
+        AppendLetter(result, atWordStart ? UpperLetter(letter) : letter);
+        atWordStart = letter == U' ' || letter == U'\n';
+    }
+    return result;
+}
+
+std::string ApplyCaseOfTableName(std::string_view path, std::string text) {
+    const std::string_view name = NameForCase(path);
+    if (name.size() == 1 && IsCapital(name, 0)) {
+        throw Failure(FailureNumber::InvalidArgument,
+                      "The name of the table, " + std::string(name) +
+                          ", is one capital letter: a second letter must say which case is meant");
+    }
+    return ApplyCaseOfName(name, std::move(text));
+}
+
+std::string ApplyCaseOfScriptName(std::string_view path, std::string text) {
+    return ApplyCaseOfName(NameForCase(path), std::move(text));
+}
+
+bool IsScriptPath(std::string_view path) {
+    return path.size() >= 4 && FoldCase(path.substr(path.size() - 4)) == ".spt";
+}
+
+}  // namespace quenloft

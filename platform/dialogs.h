@@ -1,0 +1,47 @@
+// The port to everything that asks or tells the user something in a window of its own.
+// All boxes carry the program title string; all text is UTF-8, all paths are native.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace quenloft {
+
+enum class MessageIcon { None, Information, Warning };
+enum class Answer { Yes, No, Cancel };
+
+struct FontChoice {
+    std::string name;
+    double size = 0;  ///< Points.
+    bool bold = false;
+    bool italic = false;
+};
+
+class Dialogs {
+  public:
+    virtual ~Dialogs() = default;
+
+    /// A box with an OK button.
+    virtual void ShowMessage(const std::string& text, MessageIcon icon) = 0;
+    /// A question box with Yes and No; closing it means No.
+    virtual Answer AskYesNo(const std::string& text) = 0;
+    /// A question box with Yes, No and Cancel; closing it means Cancel.
+    virtual Answer AskYesNoCancel(const std::string& text) = 0;
+    /// One line of text; nothing on Cancel.
+    virtual std::optional<std::string> AskText(const std::string& prompt,
+                                               const std::string& defaultText) = 0;
+    /// `filter` is a list of "Caption|pattern;pattern" pairs joined by "|"
+    /// ("Table (*.tbl)|*.tbl|All files (*.*)|*.*"). Nothing on Cancel. `folder` is where to begin.
+    virtual std::optional<std::string> ChooseFileToOpen(const std::string& filter,
+                                                        const std::string& folder) = 0;
+    /// As above; asks before an existing file is chosen. A name typed without an extension gets the
+    /// one of the chosen pattern.
+    virtual std::optional<std::string> ChooseFileToSave(const std::string& filter,
+                                                        const std::string& path) = 0;
+    virtual std::optional<std::string> ChooseFolder(const std::string& title,
+                                                    const std::string& folder) = 0;
+    virtual std::optional<FontChoice> ChooseFont(const FontChoice& initial) = 0;
+};
+
+}  // namespace quenloft

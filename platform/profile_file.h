@@ -1,0 +1,32 @@
+// The port to settings in INI text with the rules of the Windows profile functions.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace quenloft {
+
+class ProfileFile {
+  public:
+    virtual ~ProfileFile() = default;
+
+    /// Library path of the program's own profile: beside the executable, named like it, ".INI";
+    /// in the user's configuration folder only where the executable's folder cannot be written.
+    virtual std::string GetProfileFileName() = 0;
+    /// The executable's folder, a backslash and its name without extension.
+    virtual std::string GetApplicationBaseName() = 0;
+    /// The value of the first `key` in the first `section`, cut to 249 characters. Section and key
+    /// match without regard to case; one pair of quotes around the value is cut. Where the file,
+    /// the section or the key is missing: `defaultValue`, its trailing blanks cut. Never fails.
+    virtual std::string ReadProfileString(std::string_view section, std::string_view key,
+                                          std::string_view defaultValue, std::string_view file) = 0;
+    /// Replaces the value in place, or adds key and section; everything else in the file stays as
+    /// it was. Atomic. False where nothing could be written (also for an empty section or key name).
+    virtual bool WriteProfileString(std::string_view section, std::string_view key,
+                                    std::string_view value, std::string_view file) = 0;
+    /// The key names of `section` in the file's order and spelling, each ended by NUL; a list of
+    /// 1,024 characters or more is cut to 1,022.
+    virtual std::string ReadProfileKeyList(std::string_view file, std::string_view section) = 0;
+};
+
+}  // namespace quenloft
