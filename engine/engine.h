@@ -1,36 +1,28 @@
 // The generation engine: rolls tables and runs scripts. One object holds the whole run-wide state:
-// variables, roll counts, the abort flag, open files. Text in and out is UTF-8, generated line
-// breaks are CR LF, paths are library paths (platform/file_system.h).
+// variables, roll counts, the abort flag, open files. This is all that a window needs of it; the
+// language itself is at home in interpreter.h.
 //
-// Each group of operations has its file: table_roller.cpp (RollTable), entry_expander.cpp
-// (ExpandEntry and the duplicate rule), variable_statement.cpp, script_interpreter.cpp, dice.cpp.
+// Text in and out is UTF-8, generated line breaks are CR LF, paths are those of
+// platform/file_system.h.
 #pragma once
 
 #include <cstdint>
-#include <exception>
+#include <memory>
 #include <string>
 #include <string_view>
-#include <vector>
 
-#include "engine/dice.h"
 #include "engine/host.h"
-#include "engine/open_file_cache.h"
-#include "engine/roll_counts.h"
-#include "engine/script_index.h"
-#include "engine/table_index.h"
-#include "engine/value.h"
-#include "engine/variable_store.h"
 #include "platform/file_system.h"
 #include "platform/random_source.h"
 
 namespace quenloft {
 
-/// What an aborted run shows in place of its result.
-inline constexpr std::string_view kAbortedText = "Process Aborted!";
+class Interpreter;
 
 class Engine {
   public:
     Engine(FileSystem& files, RandomSource& random, EngineHost& host);
+    ~Engine();
 
     // --- One generation ---
 
@@ -39,26 +31,38 @@ class Engine {
     void ResetGeneration();
 
     /// Rolls the table at `path` once and returns the finished text, or an error text; never fails.
-    /// A `forcedRoll` above 0 takes the place of the random roll.
+    /// A `forcedRoll` above 0 takes the place of the random roll. Empty while a run is going on.
     std::string RollTable(std::string_view path, std::int32_t forcedRoll = 0);
     /// Runs the script at `path` and returns its output, with an error report where it failed.
     /// `fromRunner`: the user runs this script itself, so its name does not capitalise the output.
+    /// Empty while a run is going on.
     std::string RunScript(std::string_view path, bool fromRunner);
-    /// Expands all marks of an entry's text; an error text where a mark has no partner.
-    std::string ExpandEntry(std::string_view text);
 
-    /// The title in the header of the table at `path`, or "!Invalid fileheader!".
+    /// The title in the header of the table at `path`, or "!Invalid fileheader!". Reads the first
+    /// lines from disk; does not disturb a run that is going on.
     std::string ReadTableTitle(std::string_view path);
 
-    /// True while one of the operations above is at work: event handlers that run inside a yield
-    /// must not start another one.
-    bool IsRunning() const { return depth_ > 0; }
+    /// True while a table is rolled or a script run: event handlers that run inside a yield must
+    /// not start another one.
+    bool IsRunning() const { return running_; }
 
     // --- The abort flag ---
 
     /// Ends the run that is going on: every loop stops at its next turn.
-    void SetAbortFlag() { abortFlag_ = true; }
-    void ClearAbortFlag() { abortFlag_ = false; }
-    bool IsAborted() const { return abortFlag_; }
+    void SetAbortFlag();
+    void ClearAbortFlag();
+    bool IsAborted() const;
 
     FileSystem& Files() { return files_; }
+
+  private:
+    template <typename Work>
+    std::string Run(std::string_view path, Work work);
+
+    FileSystem& files_;
+    EngineHost& host_;
+    std::unique_ptr<Interpreter> interpreter_;
+    bool running_ = false;
+};
+
+}  // namespace quenloft

@@ -36,9 +36,9 @@ double ReadDigits(std::string_view digits) {
         // Too large or too small? from_chars does not say, the sign of the exponent does; without
         // an exponent only a long row of leading zeros behind the point is too small.
         const std::size_t mark = digits.find_first_of("eE");
-        const bool tiny = mark != std::string_view::npos ? digits[mark + 1] == '-'
-                                                         : digits.starts_with('.') ||
-                                                               digits.starts_with('0');
+        const bool tiny = mark != std::string_view::npos
+                              ? digits[mark + 1] == '-'
+                              : digits.starts_with('.') || digits.starts_with('0');
         return tiny ? 0.0 : std::numeric_limits<double>::infinity();
     }
     return error == std::errc() ? value : 0.0;
@@ -139,8 +139,8 @@ std::optional<double> ParseSigned(std::string_view text) {
         hasSign = true;
         text = CutOuterBlanks(text.substr(1, text.size() - 2));
     }
-    while (!text.empty() && ((IsSign(text.front()) && !hasSign) ||
-                             (text.front() == '$' && !hasCurrency))) {
+    while (!text.empty() &&
+           ((IsSign(text.front()) && !hasSign) || (text.front() == '$' && !hasCurrency))) {
         if (text.front() == '$') {
             hasCurrency = true;
         } else {
@@ -167,7 +167,8 @@ std::string NumberToText(double number) {
     const auto written =
         std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::fabs(number),
                       std::chars_format::scientific, kSignificantDigits - 1);
-    const std::string_view form(buffer.data(), static_cast<std::size_t>(written.ptr - buffer.data()));
+    const std::string_view form(buffer.data(),
+                                static_cast<std::size_t>(written.ptr - buffer.data()));
     const std::size_t mark = form.find('e');
     if (mark == std::string_view::npos) {
         throw Failure(FailureNumber::Overflow);  // Infinity: no result of ours is.

@@ -1,5 +1,8 @@
 #include "engine/text_helpers.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "engine/failure.h"
 #include "platform/letter_case.h"
 
@@ -28,6 +31,14 @@ std::string ApplyCaseOfName(std::string_view name, std::string text) {
         return UpperCase(text);
     }
     return IsCapital(name, name.size() - 1) ? CapitaliseWords(text) : UpperCaseFirst(text);
+}
+
+bool EndsWithExtension(std::string_view path, std::string_view extension) {
+    if (path.size() <= extension.size() || path[path.size() - extension.size() - 1] != '.') {
+        return false;
+    }
+    return std::equal(extension.begin(), extension.end(), path.end() - std::ssize(extension),
+                      [](char lower, char c) { return c == lower || c == lower - 'a' + 'A'; });
 }
 
 }  // namespace
@@ -105,8 +116,8 @@ std::string ApplyCaseOfScriptName(std::string_view path, std::string text) {
     return ApplyCaseOfName(NameForCase(path), std::move(text));
 }
 
-bool IsScriptPath(std::string_view path) {
-    return path.size() >= 4 && FoldCase(path.substr(path.size() - 4)) == ".spt";
-}
+bool IsScriptPath(std::string_view path) { return EndsWithExtension(path, "spt"); }
+
+bool IsTablePath(std::string_view path) { return EndsWithExtension(path, "tbl"); }
 
 }  // namespace quenloft

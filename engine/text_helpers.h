@@ -1,6 +1,6 @@
-// The small text and path helpers that the file formats rest on. What trims and what does not, which
-// dot counts and what compares case matters to the letter: old libraries depend on it.
-// Paths here are library paths; only "\" separates.
+// The small text and path helpers that the file formats rest on. What trims and what does not,
+// which dot counts and what compares case matters to the letter: old libraries depend on it. Paths
+// here are library paths; only "\" separates.
 #pragma once
 
 #include <string>
@@ -45,5 +45,7 @@ std::string ApplyCaseOfScriptName(std::string_view path, std::string text);
 
 /// True when the last four characters are ".spt", whatever their case.
 bool IsScriptPath(std::string_view path);
+/// The same for ".tbl".
+bool IsTablePath(std::string_view path);
 
 }  // namespace quenloft

@@ -3,8 +3,10 @@
 #include <array>
 #include <cmath>
 #include <ctime>
+#include <utility>
 
 #include "engine/failure.h"
+#include "engine/limits.h"
 #include "engine/numbers.h"
 #include "platform/letter_case.h"
 
@@ -55,16 +57,20 @@ Value Value::Now() {
     const std::tm local = LocalTime(moment);
     Value value;
     value.kind_ = Kind::DateTime;
-    value.number_ = kDaysBefore1970 +
-                    (static_cast<double>(moment) + static_cast<double>(local.tm_gmtoff)) /
-                        kSecondsPerDay;
+    value.number_ =
+        kDaysBefore1970 +
+        (static_cast<double>(moment) + static_cast<double>(local.tm_gmtoff)) / kSecondsPerDay;
     value.text_ = IsoText(local);
     return value;
 }
 
 std::string DateTimeText() { return IsoText(LocalTime(std::time(nullptr))); }
 
-std::string Value::TextForm() const {
+std::string Value::TextForm() && {
+    return IsText() ? std::move(text_) : std::as_const(*this).TextForm();
+}
+
+std::string Value::TextForm() const& {
     switch (kind_) {
         case Kind::Empty:
             return {};
@@ -95,9 +101,16 @@ bool Value::AsTruth() const {
     return TextToNumber(text_) != 0;
 }
 
-Value Add(const Value& left, const Value& right) {
+Value Join(Value left, const Value& right) {
+    std::string text = std::move(left).TextForm();
+    text += right.TextForm();
+    CheckOutputSize(text.size());
+    return Value::OfText(std::move(text));
+}
+
+Value Add(Value left, const Value& right) {
     if (left.IsText() && right.IsText()) {
-        return Value::OfText(left.TextForm() + right.TextForm());
+        return Join(std::move(left), right);
     }
     if ((left.IsText() && right.IsEmpty()) || (left.IsEmpty() && right.IsText())) {
         throw Failure(FailureNumber::TypeMismatch);
@@ -111,7 +124,8 @@ Value Add(const Value& left, const Value& right) {
 
 int Compare(const Value& left, const Value& right) {
     if (left.IsText() || right.IsText()) {
-        const bool bothTexts = (left.IsText() || left.IsEmpty()) && (right.IsText() || right.IsEmpty());
+        const bool bothTexts =
+            (left.IsText() || left.IsEmpty()) && (right.IsText() || right.IsEmpty());
         if (bothTexts) {
             return left.TextForm().compare(right.TextForm());
         }

@@ -22,7 +22,8 @@ class Value {
     bool IsEmpty() const { return kind_ == Kind::Empty; }
 
     /// Numbers per NumberToText, "True" or "False", "2026-11-21 20:15:00", empty as "".
-    std::string TextForm() const;
+    std::string TextForm() const&;
+    std::string TextForm() &&;
     /// True is -1, empty is 0, a date counts days. Throws Failure "Type mismatch" for text that is
     /// no number.
     double AsNumber() const;
@@ -36,9 +37,11 @@ class Value {
 };
 
 /// The sum; two texts are joined. Throws Failure ("Type mismatch", "Overflow").
-Value Add(const Value& left, const Value& right);
-/// Below 0, 0 or above 0: numbers by size, texts by code, a number less than any text. An empty value
-/// compares as 0 with numbers and as "" with text.
+Value Add(Value left, const Value& right);
+/// The text forms of both, one behind the other. Throws RunStopped past kLargestOutput.
+Value Join(Value left, const Value& right);
+/// Below 0, 0 or above 0: numbers by size, texts by code, a number less than any text. An empty
+/// value compares as 0 with numbers and as "" with text.
 int Compare(const Value& left, const Value& right);
 
 /// The local date and time as text ("2026-11-21 20:15:00"), as "NOW" and printed footers show it.

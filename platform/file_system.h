@@ -41,6 +41,12 @@ class TextFile {
     virtual std::string_view Line(std::size_t index) const = 0;
     /// The library path of the file as it is spelled on disk ("Z:\lib\Names.tbl").
     virtual const std::string& Path() const = 0;
+
+    /// What a reader has worked out about this file and wants to find again; dropped with the file.
+    struct Notes {
+        virtual ~Notes() = default;
+    };
+    mutable std::unique_ptr<Notes> notes;
 };
 
 /// Reads a file from its start, no further than asked, keeping nothing.
@@ -105,7 +111,8 @@ class FileSystem {
 
     /// Replaces or creates the file: the old content or the new stands on disk, never a mixture.
     /// A temporary file in the same folder, flushed, renamed over the old one; permissions and the
-    /// target of a symbolic link are kept, and so is the spelling of an existing name. Throws FileError.
+    /// target of a symbolic link are kept, and so is the spelling of an existing name. Throws
+    /// FileError.
     virtual void WriteBytes(std::string_view path, std::string_view bytes) = 0;
     /// Throws FileError, also where something of that name exists or its folder does not.
     virtual void CreateFolder(std::string_view path) = 0;

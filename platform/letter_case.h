@@ -1,4 +1,5 @@
-// Upper and lower case over all of Unicode's simple (one to one) mappings, whatever the user's locale.
+// Upper and lower case over all of Unicode's simple (one to one) mappings, whatever the user's
+// locale.
 #pragma once
 
 #include <string>

@@ -21,7 +21,8 @@ class ProfileFile {
     virtual std::string ReadProfileString(std::string_view section, std::string_view key,
                                           std::string_view defaultValue, std::string_view file) = 0;
     /// Replaces the value in place, or adds key and section; everything else in the file stays as
-    /// it was. Atomic. False where nothing could be written (also for an empty section or key name).
+    /// it was. Atomic. False where nothing could be written (also for an empty section or key
+    /// name).
     virtual bool WriteProfileString(std::string_view section, std::string_view key,
                                     std::string_view value, std::string_view file) = 0;
     /// The key names of `section` in the file's order and spelling, each ended by NUL; a list of

@@ -8,13 +8,13 @@ namespace quenloft {
 
 /// The machine's memory as it is now. All figures in bytes, except as noted.
 struct MemoryFigures {
-    double structureLength = 0;      ///< Size of the record that the system fills, in bytes.
-    double memoryLoad = 0;           ///< Physical memory in use, in percent (0 to 100).
+    double structureLength = 0;  ///< Size of the record that the system fills, in bytes.
+    double memoryLoad = 0;       ///< Physical memory in use, in percent (0 to 100).
     double totalPhysical = 0;
     double availablePhysical = 0;
-    double totalPageFile = 0;        ///< Physical memory and swap together.
+    double totalPageFile = 0;  ///< Physical memory and swap together.
     double availablePageFile = 0;
-    double totalVirtual = 0;         ///< Address space of this process.
+    double totalVirtual = 0;  ///< Address space of this process.
     double availableVirtual = 0;
 };
 

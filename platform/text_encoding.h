@@ -1,5 +1,5 @@
-// Text at the file border. Inside the program all text is UTF-8; files are in the 8-bit code page of
-// the machines that most libraries were made on (Windows-1252), or in UTF-8.
+// Text at the file border. Inside the program all text is UTF-8; files are in the 8-bit code page
+// of the machines that most libraries were made on (Windows-1252), or in UTF-8.
 #pragma once
 
 #include <optional>

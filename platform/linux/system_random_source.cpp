@@ -28,7 +28,8 @@ void SystemRandomSource::ReadMemory() {
     memory_.totalPhysical = static_cast<double>(info.totalram) * unit;
     memory_.availablePhysical = static_cast<double>(info.freeram + info.bufferram) * unit;
     memory_.totalPageFile = memory_.totalPhysical + static_cast<double>(info.totalswap) * unit;
-    memory_.availablePageFile = memory_.availablePhysical + static_cast<double>(info.freeswap) * unit;
+    memory_.availablePageFile =
+        memory_.availablePhysical + static_cast<double>(info.freeswap) * unit;
     memory_.totalVirtual = kAddressSpace;
     memory_.availableVirtual = kAddressSpace - (memory_.totalPhysical - memory_.availablePhysical);
     memory_.memoryLoad = memory_.totalPhysical > 0

@@ -1,15 +1,14 @@
-// The program's one generator: PCG (128 bits of state, 64 bits of output), the coarse monotonic clock
-// and the memory figures of sysinfo(2).
+// The program's one generator: PCG (128 bits of state, 64 bits of output), the coarse monotonic
+// clock and the memory figures of sysinfo(2).
 //
 // Inline and final, because a simulation reseeds before each of its millions of dice.
 #pragma once
-
-#include <time.h>
 
 #include <bit>
 #include <cstdint>
 #include <pcg_random.hpp>
 #include <random>
+#include <time.h>
 
 #include "platform/random_source.h"
 
@@ -23,7 +22,8 @@ class FoldingPcg : public pcg_engines::oneseq_xsl_rr_128_64 {
     void Fold(std::uint64_t entropy) {
         // Odd 64-bit golden ratio, doubled: an even addend keeps the step's increment odd, and with
         // it the full period, even where the same entropy comes again and again within one tick.
-        constexpr state_type kSpread = (state_type(0x9E3779B97F4A7C15U) << 64) + 0xBF58476D1CE4E5B8U;
+        constexpr state_type kSpread =
+            (state_type(0x9E3779B97F4A7C15U) << 64) + 0xBF58476D1CE4E5B8U;
         state_ = bump(state_ + kSpread * entropy);
     }
 };

@@ -1,0 +1,181 @@
+// Expanding an entry's text: dice, variables, line breaks, references, and the duplicate rule.
+#include "engine/expression.h"
+#include "engine/failure.h"
+#include "engine/interpreter.h"
+#include "engine/limits.h"
+#include "engine/numbers.h"
+#include "engine/pending_text.h"
+#include "engine/table_file.h"
+#include "engine/text_helpers.h"
+
+namespace quenloft {
+
+namespace {
+
+constexpr std::string_view kDiceMark = "@";
+constexpr std::string_view kReferenceMark = "#";
+constexpr char kLineBreakMark = '|';
+
+// The marks by their names: a mark in a diagnostic would be expanded by the level above.
+constexpr std::string_view kDiceMarkName = "dice mark (at sign)";
+constexpr std::string_view kVariableMarkName = "variable mark (two question marks)";
+constexpr std::string_view kReferenceMarkName = "reference mark (number sign)";
+
+Failure NoPartner(std::string_view nameOfMark) {
+    return {FailureNumber::InvalidArgument,
+            "A " + std::string(nameOfMark) + " has no partner in the text"};
+}
+
+void ReplaceLineBreakMarks(std::string& text) {
+    std::size_t mark = text.find(kLineBreakMark);
+    if (mark == std::string::npos) {
+        return;
+    }
+    std::string result;
+    std::size_t done = 0;
+    for (; mark != std::string::npos; mark = text.find(kLineBreakMark, done)) {
+        result.append(text, done, mark - done).append(kLineBreak);
+        done = mark + 1;
+    }
+    text = result.append(text, done);
+}
+
+/// The text of one level after an abort: the word stands in it once.
+void AppendAborted(std::string& text) {
+    if (text.find(kAbortedText) == std::string::npos) {
+        text.append(kAbortedText);
+    }
+}
+
+}  // namespace
+
+std::string Interpreter::ExpandEntry(std::string_view text) {
+    if (!TakeTurn()) {
+        return std::string(kAbortedText);
+    }
+    std::string expanded(text);
+    ReplaceMarks(expanded, kDiceMark, kDiceMarkName, [&](std::string_view notation) {
+        std::string dice(notation);
+        SubstituteVariables(dice);
+        return dice_.RollDice(dice);
+    });
+    SubstituteVariables(expanded);
+    ReplaceLineBreakMarks(expanded);
+    ReplaceMarks(expanded, kReferenceMark, kReferenceMarkName, [&](std::string_view reference) {
+        Reference parsed;
+        if (const std::size_t forced = reference.find('='); forced != std::string_view::npos) {
+            parsed.forcedRoll = NumericValue(reference.substr(forced + 1));
+            reference = reference.substr(0, forced);
+        }
+        if (const std::size_t repeat = reference.find('^'); repeat != std::string_view::npos) {
+            const std::size_t joined = reference.find("^_");
+            parsed.joined = joined != std::string_view::npos;
+            parsed.count = NumericValue(reference.substr(parsed.joined ? joined + 2 : repeat + 1));
+            reference = reference.substr(0, repeat);
+        }
+        parsed.file = reference;
+        return ExpandReference(parsed, text, /*tablesOnly=*/false);
+    });
+    return expanded;
+}
+
+void Interpreter::SubstituteVariables(std::string& text) {
+    ReplaceMarks(text, kVariableMark, kVariableMarkName, [&](std::string_view statement) {
+        return EvaluateVariableStatement(statement).TextForm();
+    });
+}
+
+std::string Interpreter::ExpandTableReferences(std::string_view text) {
+    std::string expanded(text);
+    ReplaceMarks(expanded, kReferenceMark, kReferenceMarkName, [&](std::string_view reference) {
+        Reference parsed;
+        if (const std::size_t repeat = reference.find('^'); repeat != std::string_view::npos) {
+            parsed.count = NumericValue(reference.substr(repeat + 1));
+            reference = reference.substr(0, repeat);
+        }
+        parsed.file = reference;
+        return ExpandReference(parsed, text, /*tablesOnly=*/true);
+    });
+    return expanded;
+}
+
+/// Replaces what stands between two marks, first pair first. A result is searched again, since it
+/// may hold the same mark; what stands before it holds none any more.
+template <typename Replace>
+void Interpreter::ReplaceMarks(std::string& text, std::string_view mark,
+                               std::string_view nameOfMark, Replace replace) {
+    std::size_t begin = text.find(mark);
+    if (begin == std::string::npos) {
+        return;
+    }
+    std::string done;
+    PendingText pending(std::move(text));
+    for (; begin != std::string_view::npos; begin = pending.View().find(mark)) {
+        done.append(pending.View().substr(0, begin));
+        if (!TakeTurn()) {
+            AppendAborted(done);
+            text = std::move(done);
+            return;
+        }
+        pending.Drop(begin + mark.size());
+        const std::size_t end = pending.View().find(mark);
+        if (end == std::string_view::npos) {
+            throw NoPartner(nameOfMark);
+        }
+        const std::string result = replace(pending.View().substr(0, end));
+        pending.Drop(end + mark.size());
+        pending.PutBack(result);
+        CheckOutputSize(done.size() + pending.Size());
+    }
+    text = std::move(done.append(pending.View()));
+}
+
+std::string Interpreter::ExpandReference(const Reference& reference, std::string_view referringText,
+                                         bool tablesOnly) {
+    std::string name(reference.file);
+    if (name.starts_with('\\')) {
+        // Resolved once: a repeat must not look where the first roll has led the current directory.
+        name.insert(0, files_.CurrentDirectory());
+    }
+    const std::string file = ResolveFileKind(std::move(name));
+    const bool isTable = tablesOnly || !IsScriptPath(file);
+    const auto roll = [&] {
+        return tablesOnly ? RollTable(file, 0)
+                          : GetReferenceData(file, reference.forcedRoll, isTable);
+    };
+    std::string result;
+    for (std::int32_t i = 0; i < reference.count; ++i) {
+        if (i > 0 && !TakeTurn()) {
+            break;
+        }
+        std::string item = roll();
+        while (!AcceptRoll(referringText, item) && TakeTurn()) {
+            item = roll();
+        }
+        if (i == 0) {
+            result = std::move(item);
+        } else {
+            result.append(reference.joined ? std::string_view{} : kLineBreak).append(item);
+        }
+        CheckOutputSize(result.size());
+    }
+    return result;
+}
+
+bool Interpreter::AcceptRoll(std::string_view referringText, std::string_view result) {
+    constexpr std::int32_t kUsualLimit = 2;
+    std::int64_t* count = rollCounts_.FindOrStart(referringText, result);
+    if (count == nullptr) {
+        return true;
+    }
+    const Value* accepted = variables_.Find("DUPLICATESACCEPTED");
+    const std::int32_t limit = accepted ? NumericValue(accepted->TextForm()) : kUsualLimit;
+    if (limit != 0 && (*count >= limit || IsExpression(result, variables_))) {
+        *count = 1;
+        return true;
+    }
+    ++*count;
+    return false;
+}
+
+}  // namespace quenloft
