@@ -1,0 +1,209 @@
+// Reading, writing and refusing, as the rest of the program sees it.
+#include "platform/file_system.h"
+
+#include <filesystem>
+#include <functional>
+#include <gtest/gtest.h>
+#include <string>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <vector>
+
+#include "platform/linux/linux_file_system.h"
+#include "tests/support/temp_folder.h"
+
+namespace quenloft {
+namespace {
+
+using Kind = FileError::Kind;
+
+class FileSystemTest : public testing::Test {
+  protected:
+    void SetUp() override { files_.ChangeDirectory(folder_.Path()); }
+
+    void ExpectRefusal(const std::function<void()>& action, Kind kind, const std::string& words) {
+        try {
+            action();
+            ADD_FAILURE() << "not refused: " << words;
+        } catch (const FileError& error) {
+            EXPECT_EQ(error.what(), words);
+            EXPECT_EQ(error.GetKind(), kind) << words;
+        }
+    }
+
+    TempFolder folder_;
+    LinuxFileSystem files_;
+};
+
+TEST_F(FileSystemTest, NamesTheFileAndTheCauseOfEveryRefusal) {
+    folder_.Write("sub/x.tbl", "");
+    folder_.Write("byte\xE9.tbl", "");
+    ASSERT_EQ(mkfifo(folder_.Path("pipe").c_str(), 0600), 0);
+    const std::string at = folder_.Path() + "/";
+
+    ExpectRefusal([&] { files_.OpenText("no.tbl"); }, Kind::FileNotFound,
+                  "File not found: " + at + "no.tbl");
+    ExpectRefusal([&] { files_.ReadLines("SUB\\no.tbl"); }, Kind::FileNotFound,
+                  "File not found: " + at + "sub/no.tbl");
+    ExpectRefusal([&] { files_.ReadBytes("none\\no.tbl"); }, Kind::PathNotFound,
+                  "Path not found: " + at + "none/no.tbl");
+    ExpectRefusal([&] { files_.OpenText("sub\\x.tbl\\y"); }, Kind::PathNotFound,
+                  "Path not found: " + at + "sub/x.tbl/y");
+    ExpectRefusal([&] { files_.OpenText("c:/x"); }, Kind::PathNotFound, "Path not found: C:\\x");
+    ExpectRefusal([&] { files_.WriteBytes("C:\\x", ""); }, Kind::PathNotFound,
+                  "Path not found: C:\\x");
+    ExpectRefusal([&] { files_.OpenText("SUB"); }, Kind::Other, at + "sub is a folder");
+    ExpectRefusal([&] { files_.WriteBytes("sub", ""); }, Kind::Other, at + "sub is a folder");
+    ExpectRefusal([&] { files_.DeleteFile("sub"); }, Kind::Other, at + "sub is a folder");
+    ExpectRefusal([&] { files_.OpenText("pipe"); }, Kind::Other, at + "pipe is not a regular file");
+    ExpectRefusal([&] { files_.ReadBytes("\\dev\\null"); }, Kind::Other,
+                  "/dev/null is not a regular file");
+    ExpectRefusal([&] { files_.WriteBytes("pipe", ""); }, Kind::Other,
+                  at + "pipe is not a regular file");
+    ExpectRefusal([&] { files_.WriteBytes("none\\x.tbl", ""); }, Kind::PathNotFound,
+                  "Path not found: " + at + "none/x.tbl");
+    ExpectRefusal([&] { files_.ChangeDirectory("sub\\x.tbl"); }, Kind::PathNotFound,
+                  "Path not found: " + at + "sub/x.tbl");
+    ExpectRefusal([&] { files_.ListFolder("none"); }, Kind::PathNotFound,
+                  "Path not found: " + at + "none");
+    ExpectRefusal([&] { files_.CreateFolder("SUB"); }, Kind::Other, at + "sub: File exists");
+    ExpectRefusal([&] { files_.CreateFolder("none\\new"); }, Kind::PathNotFound,
+                  "Path not found: " + at + "none/new");
+    ExpectRefusal([&] { files_.DeleteFile("no.tbl"); }, Kind::FileNotFound,
+                  "File not found: " + at + "no.tbl");
+}
+
+TEST_F(FileSystemTest, ReportsAFileThatMayNotBeRead) {
+    if (geteuid() == 0) {
+        GTEST_SKIP() << "the superuser may read everything";
+    }
+    std::filesystem::permissions(folder_.Write("x.tbl", ""), std::filesystem::perms::none);
+    ExpectRefusal([&] { files_.OpenText("x.tbl"); }, Kind::PermissionDenied,
+                  "Permission denied: " + folder_.Path("x.tbl"));
+}
+
+TEST_F(FileSystemTest, ListsAFolderInByteOrder) {
+    for (const char* name : {"b.tbl", "B.tbl", ".hidden", "\xE9.tbl", "sub/x.tbl", "a\\b"}) {
+        folder_.Write(name, "");
+    }
+    std::filesystem::create_symlink("sub", folder_.Path("link"));
+    std::filesystem::create_symlink("nowhere", folder_.Path("loose"));
+
+    std::string listing;
+    for (const FolderEntry& entry : files_.ListFolder("")) {
+        listing += entry.name + (entry.isFolder ? "/" : "") + (entry.isHidden ? "?" : "") + "\n";
+    }
+    EXPECT_EQ(listing,
+              ".hidden?\nB.tbl\na\xEF\x81\x9C"
+              "b\nb.tbl\nlink/\nloose\nsub/\n\xC3\xA9.tbl\n");
+}
+
+TEST_F(FileSystemTest, KeepsTheSpellingOfTheFileThatIsWritten) {
+    folder_.Write("Sub/Case.tbl", "old");
+    files_.WriteBytes("SUB\\CASE.TBL", "new");
+    files_.WriteBytes("sub\\Fresh.tbl. ", "fresh");
+
+    EXPECT_EQ(folder_.Read("Sub/Case.tbl"), "new");
+    EXPECT_EQ(folder_.Read("Sub/Fresh.tbl"), "fresh");
+    EXPECT_EQ(files_.ListFolder("sub").size(), 2U);
+}
+
+TEST_F(FileSystemTest, SeesItsOwnChangesAtOnce) {
+    EXPECT_FALSE(files_.FileExists("new\\x.tbl"));
+    files_.CreateFolder("new");
+    EXPECT_TRUE(files_.FolderExists("NEW"));
+    files_.WriteBytes("new\\x.tbl", "one");
+    EXPECT_EQ(files_.OpenText("new\\x.tbl")->Line(0), "one");
+    files_.WriteBytes("new\\x.tbl", "two");
+    EXPECT_EQ(files_.OpenText("new\\x.tbl")->Line(0), "two");
+    files_.DeleteFile("NEW\\X.tbl");
+    EXPECT_FALSE(files_.FileExists("new\\x.tbl"));
+}
+
+TEST_F(FileSystemTest, DeletesALinkAndNotWhatItLeadsTo) {
+    folder_.Write("target.tbl", "kept");
+    std::filesystem::create_symlink("target.tbl", folder_.Path("link.tbl"));
+    std::filesystem::create_symlink("nowhere", folder_.Path("loose.tbl"));
+    files_.DeleteFile("link.tbl");
+    files_.DeleteFile("loose.tbl");
+    EXPECT_EQ(files_.ListFolder(".").size(), 1U);
+    EXPECT_EQ(folder_.Read("target.tbl"), "kept");
+}
+
+TEST_F(FileSystemTest, BelievesWhatItSawUntilItLooksAgain) {
+    folder_.Write("x.tbl", "one");
+    const auto first = files_.OpenText("X.TBL");
+    EXPECT_FALSE(files_.FileExists("later.tbl"));
+    folder_.Write("x.tbl", "other");
+    folder_.Write("later.tbl", "");
+    EXPECT_EQ(files_.OpenText("x.tbl").get(), first.get());
+    EXPECT_FALSE(files_.FileExists("later.tbl"));
+
+    files_.LookAgain();
+    EXPECT_EQ(files_.OpenText("X.TBL")->Line(0), "other");
+    EXPECT_TRUE(files_.FileExists("LATER.tbl"));
+    EXPECT_TRUE(files_.FileExists("later.tbl"));
+    EXPECT_EQ(first->Line(0), "one");
+}
+
+TEST_F(FileSystemTest, KeepsTheObjectOfAnUnchangedFile) {
+    folder_.Write("x.tbl", "one");
+    const auto first = files_.OpenText("x.tbl");
+    files_.LookAgain();
+    EXPECT_EQ(files_.OpenText("X.tbl"), first);
+    folder_.Write("x.tbl", "one");
+    files_.LookAgain();
+    EXPECT_EQ(files_.OpenText("x.tbl"), first);
+}
+
+TEST_F(FileSystemTest, SeesEveryChangeOfTheSameSizeWithinOneTickOfTheClock) {
+    for (int i = 0; i < 500; ++i) {
+        const std::string content = i % 2 == 0 ? "even" : "odd!";
+        folder_.Write("x.tbl", content);
+        files_.LookAgain();
+        ASSERT_EQ(files_.OpenText("X.tbl")->Line(0), content) << "change " << i;
+    }
+}
+
+TEST_F(FileSystemTest, SeesEveryNewNameWithinOneTickOfTheClock) {
+    for (int i = 0; i < 200; ++i) {
+        const std::string name = "name" + std::to_string(i);
+        ASSERT_FALSE(files_.FileExists(name + ".TBL"));
+        folder_.Write(name + ".tbl", "");
+        files_.LookAgain();
+        ASSERT_TRUE(files_.FileExists(name + ".TBL")) << name;
+        std::filesystem::remove(folder_.Path(name + ".tbl"));
+        files_.LookAgain();
+        ASSERT_FALSE(files_.FileExists(name + ".TBL")) << name;
+    }
+}
+
+TEST_F(FileSystemTest, PrefersAnExactNameThatAppearsLater) {
+    folder_.Write("x.tbl", "folded");
+    EXPECT_EQ(files_.OpenText("X.TBL")->Line(0), "folded");
+    folder_.Write("X.TBL", "exact");
+    files_.LookAgain();
+    EXPECT_EQ(files_.OpenText("X.TBL")->Line(0), "exact");
+}
+
+TEST_F(FileSystemTest, SeesTheTargetOfALinkAppearInAnotherFolder) {
+    folder_.Write("sub/other.tbl", "");
+    std::filesystem::create_symlink(folder_.Path("sub/x.tbl"), folder_.Path("link.tbl"));
+    EXPECT_FALSE(files_.FileExists("LINK.tbl"));
+    folder_.Write("sub/x.tbl", "");
+    files_.LookAgain();
+    EXPECT_TRUE(files_.FileExists("LINK.tbl"));
+}
+
+TEST_F(FileSystemTest, SeesAFolderReplacedByAnother) {
+    folder_.Write("Sub/x.tbl", "old");
+    EXPECT_EQ(files_.OpenText("SUB\\X.tbl")->Line(0), "old");
+    folder_.Write("fresh/x.tbl", "new");
+    std::filesystem::remove_all(folder_.Path("Sub"));
+    std::filesystem::rename(folder_.Path("fresh"), folder_.Path("Sub"));
+    files_.LookAgain();
+    EXPECT_EQ(files_.OpenText("SUB\\X.tbl")->Line(0), "new");
+}
+
+}  // namespace
+}  // namespace quenloft
