@@ -1,0 +1,38 @@
+// Settings in a file of the disk. The rules of the text are in profile_text.h; this class knows
+// where the program's own profile lies and saves without loss.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "platform/file_system.h"
+#include "platform/profile_file.h"
+
+namespace quenloft {
+
+class LinuxProfileFile : public ProfileFile {
+  public:
+    /// `executablePath` is the absolute native path of the running program; `configurationFolder`
+    /// is the user's folder for this program's settings, made when it is first written to.
+    LinuxProfileFile(FileSystem& files, std::string executablePath,
+                     std::string configurationFolder);
+
+    std::string GetProfileFileName() override;
+    std::string GetApplicationBaseName() override;
+    std::string ReadProfileString(std::string_view section, std::string_view key,
+                                  std::string_view defaultValue, std::string_view file) override;
+    bool WriteProfileString(std::string_view section, std::string_view key, std::string_view value,
+                            std::string_view file) override;
+    std::string ReadProfileKeyList(std::string_view file, std::string_view section) override;
+
+  private:
+    /// The file's bytes as they are now; none where it cannot be read.
+    std::string ReadOrNothing(std::string_view file);
+    void MakeFolderFor(std::string_view file);
+
+    FileSystem& files_;
+    std::string executablePath_;
+    std::string configurationFolder_;
+};
+
+}  // namespace quenloft
