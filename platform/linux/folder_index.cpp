@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <dirent.h>
 #include <memory>
+#include <tuple>
 #include <utility>
 
 #include "platform/letter_case.h"
@@ -45,7 +46,9 @@ void FolderIndex::Refresh(const std::string& diskPath, std::uint64_t look) {
     std::vector<Entry> entries;
     stamp_ = now;
     stamp_.isSettled = ReadNames(diskPath, entries) && now.isSettled;
-    std::sort(entries.begin(), entries.end());
+    std::sort(entries.begin(), entries.end(), [](const Entry& a, const Entry& b) {
+        return std::tie(a.key, a.diskName) < std::tie(b.key, b.diskName);
+    });
     if (entries != entries_) {
         entries_ = std::move(entries);
         ++version_;
@@ -63,9 +66,8 @@ const std::string* FolderIndex::Find(std::string_view name) const {
         if (entry->diskName == name) {
             return &entry->diskName;
         }
-        if (best == nullptr) {
-            best = &entry->diskName;
-        } else if (ShownName(*best) != shown && ShownName(entry->diskName) == shown) {
+        const bool isShownSo = ShownName(entry->diskName) == shown;
+        if (best == nullptr || (isShownSo && ShownName(*best) != shown)) {
             best = &entry->diskName;
         }
     }

@@ -27,7 +27,7 @@ class FolderIndex {
     struct Entry {
         std::string key;       ///< What names that count as equal have in common.
         std::string diskName;  ///< The bytes on disk.
-        auto operator<=>(const Entry&) const = default;
+        bool operator==(const Entry&) const = default;
     };
 
     static std::string KeyOf(std::string_view shownName);
