@@ -57,7 +57,8 @@ std::string Interpreter::ExpandEntry(std::string_view text) {
     ReplaceMarks(expanded, kDiceMark, kDiceMarkName, [&](std::string_view notation) {
         std::string dice(notation);
         SubstituteVariables(dice);
-        return dice_.RollDice(dice);
+        std::string total = dice_.RollDice(dice);
+        return abortFlag_ ? std::string(kAbortedText) : total;  // A row of dice may have been cut.
     });
     SubstituteVariables(expanded);
     ReplaceLineBreakMarks(expanded);

@@ -148,7 +148,7 @@ bool ScriptRun::SplitCondition(std::string_view text, std::string_view word, Par
     for (std::size_t i = text.find(word); i != std::string_view::npos; i = text.find(word)) {
         // Each side is a condition of its own again and begins with the blank behind its "IF"; on
         // the right this is the blank that ends the word.
-        lefts.push_back(" " + std::string(text.substr(0, i + 1)));
+        lefts.emplace_back(" ").append(text.substr(0, i + 1));
         text = text.substr(i + word.size() - 1);
     }
     bool holds = part(text);

@@ -5,7 +5,10 @@
 
 namespace quenloft {
 
-std::size_t StackBytesLeft() {
+namespace {
+
+/// The lowest address of the thread's stack, 0 where it cannot be told. Reading it is slow.
+std::uintptr_t LowestAddress() {
     pthread_attr_t attributes;
     if (pthread_getattr_np(pthread_self(), &attributes) != 0) {
         return 0;
@@ -14,9 +17,15 @@ std::size_t StackBytesLeft() {
     std::size_t size = 0;
     pthread_attr_getstack(&attributes, &lowest, &size);
     pthread_attr_destroy(&attributes);
+    return reinterpret_cast<std::uintptr_t>(lowest);
+}
+
+}  // namespace
+
+std::size_t StackBytesLeft() {
+    thread_local const std::uintptr_t lowest = LowestAddress();
     const auto here = reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0));
-    const auto end = reinterpret_cast<std::uintptr_t>(lowest);
-    return here > end ? here - end : 0;
+    return lowest != 0 && here > lowest ? here - lowest : 0;
 }
 
 }  // namespace quenloft

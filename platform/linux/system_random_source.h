@@ -5,6 +5,7 @@
 #pragma once
 
 #include <bit>
+#include <cmath>
 #include <cstdint>
 #include <pcg_random.hpp>
 #include <random>
@@ -39,7 +40,7 @@ class SystemRandomSource final : public RandomSource {
     }
     void ReseedFromTimer() override { generator_.Fold(TimerReading()); }
     void Reseed(double number) override { generator_.Fold(std::bit_cast<std::uint64_t>(number)); }
-    double TickCount() override { return static_cast<double>(TimerReading() / 1'000'000); }
+    double TickCount() override { return std::floor(static_cast<double>(TimerReading()) / 1e6); }
     MemoryFigures Memory() override {
         const std::uint64_t now = TimerReading();
         if (now != memoryReadAt_) {

@@ -1,0 +1,209 @@
+// Runs that would never end, runs that are aborted, files that change or are broken.
+#include "engine/engine.h"
+
+#include <filesystem>
+#include <gtest/gtest.h>
+
+#include "tests/support/engine_fixture.h"
+
+namespace quenloft {
+namespace {
+
+using EngineRuns = EngineFixture;
+
+TEST_F(EngineRuns, EndlessRecursionEndsWithTheNamesOfTheRing) {
+    WriteTable("self.tbl", "x #self#");
+    EXPECT_EQ(Roll("self.tbl").substr(0, 72),
+              "The run was stopped: its files refer to each other in a ring (self.tbl >");
+    WriteTable("a.tbl", "#b#");
+    WriteTable("b.tbl", "#c.spt#");
+    folder.Write("c.spt", "#a.tbl#\n");
+    const std::string ring = Roll("a.tbl");
+    EXPECT_TRUE(ring.find("(a.tbl > b.tbl > c.spt > a.tbl, ") != std::string::npos ||
+                ring.find("(b.tbl > c.spt > a.tbl > b.tbl, ") != std::string::npos ||
+                ring.find("(c.spt > a.tbl > b.tbl > c.spt, ") != std::string::npos)
+        << ring;
+    folder.Write("again.spt", "#again.spt#\nx\n");
+    EXPECT_NE(Run("again.spt").find("again.spt > again.spt"), std::string::npos);
+    WriteTable("a.tbl", "mended");
+    EXPECT_EQ(Roll("a.tbl"), "mended");
+}
+
+TEST_F(EngineRuns, AThousandNestedTablesAreNoRecursion) {
+    for (int i = 0; i < 1000; ++i) {
+        WriteTable("t" + std::to_string(i) + ".tbl", "x#t" + std::to_string(i + 1) + "#");
+    }
+    WriteTable("t1000.tbl", "end");
+    EXPECT_EQ(Roll("t0.tbl"), std::string(1000, 'x') + "end");
+}
+
+TEST_F(EngineRuns, TextThatFeedsItselfEndsAtSixteenMebibytes) {
+    const std::string stopped = "The run was stopped: its text grew past 16 MiB.";
+    WriteTable("x.tbl", "0123456789012345678901234567890123456789");
+    WriteTable("many.tbl", "??DUPLICATESACCEPTED=1??#x^1000000000#");
+    EXPECT_EQ(Roll("many.tbl"), stopped);
+    folder.Write("jump.spt",
+                 "LABEL:a\nsome output that is long enough to come to the end soon\nGOTO:a\n");
+    EXPECT_EQ(Run("jump.spt"), stopped);
+    folder.Write("grow.spt", "??v=INCabcdefghijklmnop??\nLABEL:a\n??v=v+v??\nGOTO:a\n");
+    EXPECT_EQ(Run("grow.spt"), stopped);
+    // A diagnostic is text like any other: the marks in it are expanded by the level above.
+    WriteTable("feed.tbl", "#bad#");
+    WriteTable("bad.tbl", "price @ 5 #bad#");
+    EXPECT_EQ(Roll("feed.tbl"), stopped);
+}
+
+TEST_F(EngineRuns, AbortEndsEveryKindOfLoop) {
+    WriteTable("x.tbl", "x");
+    WriteTable("repeat.tbl", "??DUPLICATESACCEPTED=1??#x^_100000000#");
+    WriteTable("never.tbl", "??DUPLICATESACCEPTED=0??#x^2# after");
+    WriteTable("dice.tbl", "@400000000d1@ gold @400000000d1@ more");
+    WriteTable("variable.tbl", "??a??");
+    folder.Write("silent.spt", "LABEL:a\nGOTO:a\n");
+    folder.Write("statements.spt", "LABEL:a\n??n=INC1??\nGOTO:a\n");
+    folder.Write("nested.spt", "before\n#silent.spt# and\nnever\n");
+    const struct {
+        const char* file;
+        const char* result;
+    } cases[] = {
+        {"never.tbl", "x\r\nx after"},
+        {"dice.tbl", "Process Aborted! gold "},
+        {"silent.spt", "Process Aborted!"},
+        {"statements.spt", "Process Aborted!"},
+        {"nested.spt", "before\r\nProcess Aborted! and"},
+    };
+    for (const auto& c : cases) {
+        long turns = 0;
+        host.onYield = [&] {
+            if (++turns == 1000) {
+                engine.SetAbortFlag();
+            }
+            return false;
+        };
+        engine.ClearAbortFlag();
+        const bool isScript = std::string_view(c.file).ends_with(".spt");
+        EXPECT_EQ(isScript ? Run(c.file) : Roll(c.file), c.result);
+        EXPECT_TRUE(engine.IsAborted());
+    }
+    engine.SetAbortFlag();
+    EXPECT_EQ(Roll("x.tbl"), "Process Aborted!");
+    EXPECT_EQ(Roll("repeat.tbl"), "Process Aborted!");
+}
+
+TEST_F(EngineRuns, OneRunAtATime) {
+    WriteTable("x.tbl", "x");
+    std::string inner = "not called";
+    host.onYield = [&] {
+        EXPECT_TRUE(engine.IsRunning());
+        inner = engine.RollTable(folder.LibraryPath("x.tbl"));
+        return false;
+    };
+    EXPECT_EQ(Roll("x.tbl"), "x");
+    EXPECT_EQ(inner, "");
+    EXPECT_FALSE(engine.IsRunning());
+}
+
+TEST_F(EngineRuns, AFileChangedOnDiskIsRolledAnew) {
+    WriteTable("x.tbl", "#y#");
+    WriteTable("y.tbl", "old");
+    EXPECT_EQ(Roll("x.tbl"), "old");
+    WriteTable("y.tbl", "new");  // The same size, within the same tick of the clock.
+    EXPECT_EQ(Roll("x.tbl"), "new");
+    WriteTable("y.tbl", "broken @ here");
+    EXPECT_NE(Roll("x.tbl").find("no partner"), std::string::npos);
+    WriteTable("y.tbl", "mended");
+    EXPECT_EQ(Roll("x.tbl"), "mended");
+    std::filesystem::remove(folder.Path("y.tbl"));
+    EXPECT_NE(Roll("x.tbl").find("File not found"), std::string::npos);
+    folder.Write("y.spt", "a script now\n");
+    EXPECT_EQ(Roll("x.tbl"), "a script now");
+
+    // A table of the same name in another folder is another table.
+    WriteTable("one/main.tbl", "#name#");
+    WriteTable("one/name.tbl", "broken @ here");
+    WriteTable("two/main.tbl", "#name#");
+    WriteTable("two/name.tbl", "two");
+    EXPECT_NE(Roll("one/main.tbl").find("no partner"), std::string::npos);
+    EXPECT_EQ(Roll("two/main.tbl"), "two");
+
+    // Within a run a change is seen once other programs had a turn.
+    host.onYield = [&] {
+        WriteTable("two/name.tbl", "changed");
+        return true;
+    };
+    EXPECT_EQ(Roll("two/main.tbl"), "changed");
+}
+
+TEST_F(EngineRuns, BrokenFilesGiveTextNotCrashes) {
+    const std::string bar = "\xC2\xA4";
+    const std::string sign = "\xC2\xA7";
+    const struct {
+        const char* name;
+        std::string bytes;
+        const char* expected;  // Stands in the result.
+    } cases[] = {
+        {"windows.tbl",
+         "T\xA4"
+         "1\r\n\r\n1\xA7"
+         "caf\xE9 \x80\r\n",
+         "café €"},
+        {"mixed.tbl",
+         "T\xA4"
+         "1\n1" +
+             sign + "Wörter\n",
+         "Wörter"},
+        {"bom.tbl", "\xEF\xBB\xBFT" + bar + "1\n1" + sign + "x", "x"},
+        {"cr.tbl", "T" + bar + "2\r1" + sign + "x\r2" + sign + "x\r", "x"},
+        {"nul.tbl", "T" + bar + "1\n1" + sign + std::string("a\0b", 3) + "\n", "b"},
+        {"negative.tbl", "T" + bar + "-5\n-5" + sign + "minus five\n", "minus five"},
+        {"text.tbl", "T" + bar + "lots\n1" + sign + "one\n", "one"},
+        {"nosign.tbl", "just a line\nand another", "and another"},
+        {"falling.tbl", "T" + bar + "1\n9" + sign + "nine\n1" + sign + "one\n", "nine"},
+        {"long.tbl", "T" + bar + "1\n1" + sign + std::string(5 << 20, 'x') + "\n", "xxxxxxxx"},
+        {"feeds.tbl", "T" + bar + "1\n1" + sign + "??a=??a????\n", ""},
+    };
+    for (const auto& c : cases) {
+        folder.Write(c.name, c.bytes);
+        EXPECT_NE(Roll(c.name).find(c.expected), std::string::npos) << c.name;
+    }
+    std::string binary;
+    for (int i = 0; i < 100000; ++i) {
+        binary.push_back(static_cast<char>(i * i * 31 >> 3));
+    }
+    folder.Write("binary.tbl", binary);
+    folder.Write("binary.spt", binary);
+    Roll("binary.tbl");
+    Run("binary.spt");
+    std::filesystem::create_directory(folder.Path("folder.tbl"));
+    EXPECT_EQ(Roll("folder.tbl").substr(0, 27), "?Invalid file reference in ");
+    EXPECT_EQ(engine.ReadTableTitle(folder.LibraryPath("folder.tbl")), "!Invalid fileheader!");
+    EXPECT_EQ(engine.RollTable("Z:\\no such folder\\x.tbl"),
+              "Failure to get data from Z:\\no such folder\\x.tbl");
+    EXPECT_EQ(engine.RollTable(folder.Path("windows.tbl")), "café €");  // A native path.
+}
+
+TEST_F(EngineRuns, TitlesAreReadWithoutRolling) {
+    const std::string bar = "\xC2\xA4";
+    const struct {
+        std::string bytes;
+        const char* title;
+    } cases[] = {
+        {"; comment\r\n\r\n  \r\nTitle" + bar + "10\r\n", "Title"},
+        {" ;indented comment\nDragons " + bar + " 12\n", "Dragons "},
+        {"Caf\xE9\xA4"
+         "3\r\n",
+         "Café"},
+        {bar + "3\n", ""},
+        {"no header\n", "!Invalid fileheader!"},
+        {"", "!Invalid fileheader!"},
+        {";only\n\n", "!Invalid fileheader!"},
+    };
+    for (const auto& c : cases) {
+        folder.Write("t.tbl", c.bytes);
+        EXPECT_EQ(engine.ReadTableTitle(folder.LibraryPath("t.tbl")), c.title);
+    }
+    EXPECT_EQ(engine.ReadTableTitle(folder.LibraryPath("gone.tbl")), "!Invalid fileheader!");
+}
+
+}  // namespace
+}  // namespace quenloft

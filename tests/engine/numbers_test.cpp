@@ -1,0 +1,102 @@
+#include "engine/numbers.h"
+
+#include <clocale>
+#include <cmath>
+#include <gtest/gtest.h>
+#include <limits>
+#include <optional>
+
+#include "engine/failure.h"
+
+namespace quenloft {
+namespace {
+
+TEST(Numbers, HaveFifteenDigitsAndNoTrailingZeros) {
+    const struct {
+        double number;
+        const char* text;
+    } cases[] = {
+        {0, "0"},
+        {-0.0, "0"},
+        {3, "3"},
+        {-12.5, "-12.5"},
+        {0.1 + 0.2, "0.3"},
+        {0.5, "0.5"},
+        {0.00001, "0.00001"},
+        {std::sqrt(2.0), "1.4142135623731"},
+        {1.0 / 12, "8.33333333333333E-02"},
+        {-1.0 / 12, "-8.33333333333333E-02"},
+        {999999999999999.0, "999999999999999"},
+        {999999999999999.9, "1E+15"},
+        {1e15, "1E+15"},
+        {1.5e300, "1.5E+300"},
+        {1e-16, "1E-16"},
+        {1e-15, "0.000000000000001"},
+        {100, "100"},
+        {2147483648.0, "2147483648"},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(NumberToText(c.number), c.text);
+    }
+}
+
+TEST(Numbers, StrictReadingTakesTheWholeTextOrNothing) {
+    const struct {
+        const char* text;
+        std::optional<double> number;
+    } cases[] = {
+        {"12", 12},     {" \t12\r\n", 12}, {"-3", -3},    {"3-", -3},     {"+3", 3},
+        {".5", 0.5},    {"5.", 5},         {"1e3", 1000}, {"1E-2", 0.01}, {"1,000", 1000},
+        {"1,0,0", 100}, {"&H10", 16},      {"&o17", 15},  {"$5", 5},      {"-$5", -5},
+        {"(5)", -5},    {"007", 7},        {"1e-400", 0}, {"", {}},       {"-", {}},
+        {"12abc", {}},  {"50%", {}},       {"1.5.2", {}}, {"0x10", {}},   {",5", {}},
+        {"1e", {}},     {"--3", {}},       {"-3-", {}},   {"&H", {}},     {"&HXY", {}},
+        {"()", {}},     {".", {}},         {"1e999", {}}, {"1.5,0", {}},  {"inf", {}},
+        {"nan", {}},    {"\xD9\xA3", {}},  {"1 000", {}}, {"((5))", {}},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(ParseNumber(c.text), c.number) << c.text;
+    }
+    EXPECT_THROW(TextToNumber("12abc"), Failure);
+    EXPECT_THROW(TextToInt32("2147483648"), Failure);
+}
+
+TEST(Numbers, PrefixIsTheLongestLeadingNumber) {
+    const struct {
+        const char* text;
+        double number;
+    } cases[] = {
+        {"12abc", 12}, {"  3 orcs", 3}, {"-4x", -4},  {"+4", 4},   {".5.5", 0.5}, {"1e3x", 1000},
+        {"1ex", 1},    {"1e+", 1},      {"1,000", 1}, {"$5", 0},   {"", 0},       {"-", 0},
+        {"abc", 0},    {"- 5", 0},      {"5^3", 5},   {"0x10", 0}, {"&H10", 0},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(NumericPrefix(c.text), c.number) << c.text;
+    }
+    EXPECT_EQ(NumericPrefix("1e999"), std::numeric_limits<double>::infinity());
+}
+
+TEST(Numbers, RoundHalfToEvenAndFailPast32Bits) {
+    const struct {
+        const char* text;
+        std::int32_t number;
+    } cases[] = {{"2.5", 2},
+                 {"3.5", 4},
+                 {"-2.5", -2},
+                 {"12§", 12},
+                 {" 7", 7},
+                 {"5e1", 50},
+                 {"2147483647", 2147483647},
+                 {"-2147483648", -2147483647 - 1},
+                 {"x", 0}};
+    for (const auto& c : cases) {
+        EXPECT_EQ(NumericValue(c.text), c.number) << c.text;
+    }
+    for (const char* tooLarge : {"2147483648", "2147483647.5", "-2147483649", "1e40",
+                                 "1234567890123456789012345678901234567890"}) {
+        EXPECT_THROW(NumericValue(tooLarge), Failure) << tooLarge;
+    }
+}
+
+}  // namespace
+}  // namespace quenloft

@@ -1,0 +1,104 @@
+// The odds. Each bound is where a right generator fails once in a million runs.
+#include <cmath>
+#include <gtest/gtest.h>
+#include <numeric>
+
+#include "engine/dice.h"
+#include "tests/support/engine_fixture.h"
+
+namespace quenloft {
+namespace {
+
+/// How far the counts are from equal, in standard deviations of a chi-square distribution.
+double ChiSquareDeviation(const std::vector<long>& counts) {
+    const double total = std::accumulate(counts.begin(), counts.end(), 0.0);
+    const double expected = total / static_cast<double>(counts.size());
+    double chiSquare = 0;
+    for (const long count : counts) {
+        chiSquare += (static_cast<double>(count) - expected) *
+                     (static_cast<double>(count) - expected) / expected;
+    }
+    const double freedom = static_cast<double>(counts.size()) - 1;
+    return (chiSquare - freedom) / std::sqrt(2 * freedom);
+}
+
+/// Correlation of each roll with the next, in standard deviations.
+double SerialDeviation(const std::vector<int>& rolls) {
+    const double n = static_cast<double>(rolls.size());
+    const double mean = std::accumulate(rolls.begin(), rolls.end(), 0.0) / n;
+    double products = 0;
+    double squares = 0;
+    for (std::size_t i = 0; i + 1 < rolls.size(); ++i) {
+        products += (rolls[i] - mean) * (rolls[i + 1] - mean);
+        squares += (rolls[i] - mean) * (rolls[i] - mean);
+    }
+    return products / squares * std::sqrt(n);
+}
+
+constexpr int kRolls = 100000;  // In well under a second: thousands within one tick of the clock.
+constexpr double kSerialBound = 4.9;
+constexpr double kChiSquareBound = 7;  // The chi-square distribution has a longer tail on top.
+
+void ExpectFair(const std::vector<int>& rolls, int faces) {
+    std::vector<long> counts(static_cast<std::size_t>(faces));
+    std::vector<long> pairs(static_cast<std::size_t>(faces * faces));
+    for (std::size_t i = 0; i < rolls.size(); ++i) {
+        ASSERT_TRUE(rolls[i] >= 1 && rolls[i] <= faces);
+        ++counts[static_cast<std::size_t>(rolls[i] - 1)];
+        if (i > 0) {
+            ++pairs[static_cast<std::size_t>((rolls[i - 1] - 1) * faces + rolls[i] - 1)];
+        }
+    }
+    EXPECT_LT(std::fabs(ChiSquareDeviation(counts)), kChiSquareBound);
+    EXPECT_LT(std::fabs(ChiSquareDeviation(pairs)), kChiSquareBound);
+    EXPECT_LT(std::fabs(SerialDeviation(rolls)), kSerialBound);
+}
+
+TEST(Randomness, ReseedingWithinOneTickKeepsTheDiceFair) {
+    SystemRandomSource random;
+    FakeHost host;
+    Dice dice(random, host, [] { return true; });
+    for (const int faces : {2, 6, 20}) {
+        for (const bool useEntropy : {false, true}) {
+            std::vector<int> rolls;
+            for (int i = 0; i < kRolls; ++i) {
+                rolls.push_back(dice.RandomTotal(1, faces, false, useEntropy, i & 1));
+            }
+            SCOPED_TRACE(faces);
+            ExpectFair(rolls, faces);
+        }
+    }
+}
+
+TEST(Randomness, TwoProgramsStartedAtOnceRollDifferently) {
+    SystemRandomSource one;
+    SystemRandomSource two;
+    EXPECT_NE(one.Next(), two.Next());
+}
+
+TEST_F(EngineFixture, TablesRollByTheirWeights) {
+    folder.Write("w.tbl",
+                 "T\xC2\xA4"
+                 "10\n\n1\xC2\xA7"
+                 "1\n2\xC2\xA7"
+                 "2\n3\xC2\xA7"
+                 "3\n10\xC2\xA7"
+                 "4\n");
+    std::vector<int> rolls;
+    long last = 0;
+    engine.ResetGeneration();
+    for (int i = 0; i < kRolls; ++i) {
+        const int entry = std::stoi(engine.RollTable(folder.LibraryPath("w.tbl")));
+        if (entry < 4) {
+            rolls.push_back(entry);
+        } else {
+            ++last;
+        }
+    }
+    ExpectFair(rolls, 3);
+    const double deviation = (static_cast<double>(last) - 0.7 * kRolls) / std::sqrt(0.21 * kRolls);
+    EXPECT_LT(std::fabs(deviation), kSerialBound);
+}
+
+}  // namespace
+}  // namespace quenloft

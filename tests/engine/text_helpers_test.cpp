@@ -1,0 +1,78 @@
+#include "engine/text_helpers.h"
+
+#include <gtest/gtest.h>
+
+#include "engine/failure.h"
+#include "platform/letter_case.h"
+
+namespace quenloft {
+namespace {
+
+TEST(TextHelpers, TrimOnlyWhereTheFormatsDo) {
+    EXPECT_TRUE(IsCommentLine(";x"));
+    EXPECT_FALSE(IsCommentLine(" ;x"));
+    EXPECT_TRUE(StartsWithTrimmed(" ;x", ";"));
+    EXPECT_FALSE(IsEmptyLine(" "));
+    EXPECT_TRUE(StartsWithTrimmed("  END IF ", " END IF "));
+    EXPECT_FALSE(StartsWithTrimmed("\tIF", "IF"));  // Blanks are cut, tabs are not.
+    EXPECT_FALSE(StartsWithTrimmed("en", "end"));
+    EXPECT_FALSE(StartsWithTrimmed("if x", "IF"));
+}
+
+TEST(TextHelpers, TakePathsApart) {
+    EXPECT_TRUE(HasDrive("C:\\x"));
+    EXPECT_FALSE(HasDrive("C:x"));
+    EXPECT_EQ(DirectoryPart("x.tbl"), "");
+    EXPECT_EQ(DirectoryPart("C:\\x.tbl"), "C:");
+    EXPECT_EQ(DirectoryPart("..\\sub\\x"), "..\\sub");
+    EXPECT_EQ(FileBaseName("C:\\lib\\a.b.tbl"), "a");
+    EXPECT_EQ(FileExtension("C:\\lib\\a.b.tbl"), "b.tbl");
+    EXPECT_EQ(FileExtension("C:\\l.ib\\noext"), "noext");
+    EXPECT_TRUE(IsScriptPath("x.SpT"));
+    EXPECT_FALSE(IsScriptPath("spt"));
+    EXPECT_FALSE(IsTablePath("xtbl"));
+}
+
+TEST(TextHelpers, CapitaliseAfterBlanksAndLineFeedsOnly) {
+    EXPECT_EQ(CapitaliseWords("one two\r\nthree"), "One Two\r\nThree");
+    EXPECT_EQ(CapitaliseWords("one-two"), "One-two");
+    EXPECT_EQ(CapitaliseWords("one\r\ntwo"), "One\r\ntwo");  // No blank: the first letter only.
+    EXPECT_EQ(CapitaliseWords("a-b c\td"), "A-b C\td");
+    EXPECT_EQ(CapitaliseWords("élan être"), "Élan Être");
+    EXPECT_THROW(CapitaliseWords(""), Failure);
+}
+
+TEST(TextHelpers, NameOfTheFileChoosesTheCase) {
+    const struct {
+        const char* path;
+        const char* table;
+        const char* script;
+    } cases[] = {
+        {"names.tbl", "bob de la cour", "bob de la cour"},
+        {"Names.tbl", "Bob de la cour", "Bob de la cour"},
+        {"NameS.tbl", "Bob De La Cour", "Bob De La Cour"},
+        {"NAMES.tbl", "BOB DE LA COUR", "BOB DE LA COUR"},
+        {"NAmes", "BOB DE LA COUR", "BOB DE LA COUR"},
+        {"~Names.tbl", "Bob de la cour", "Bob de la cour"},
+        {"~~Names.tbl", "bob de la cour", "bob de la cour"},
+        {"C:\\Lib\\names.tbl", "bob de la cour", "bob de la cour"},
+        {"Na.B.tbl", "Bob De La Cour", "Bob De La Cour"},
+        {"Élan.tbl", "bob de la cour", "bob de la cour"},  // Only A to Z count.
+        {"a.tbl", "bob de la cour", "bob de la cour"},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(ApplyCaseOfTableName(c.path, "bob de la cour"), c.table) << c.path;
+        EXPECT_EQ(ApplyCaseOfScriptName(c.path, "bob de la cour"), c.script) << c.path;
+    }
+    EXPECT_THROW(ApplyCaseOfTableName("A.tbl", "bob"), Failure);
+    EXPECT_EQ(ApplyCaseOfScriptName("A.spt", "bob smith"), "Bob Smith");
+}
+
+TEST(LetterCase, CoversUnicodeWhateverTheLocale) {
+    EXPECT_EQ(UpperCase("straße çà ÿ ω я ǆ"), "STRAßE ÇÀ Ÿ Ω Я Ǆ");
+    EXPECT_EQ(FoldCase("ΌΔΟΣ"), FoldCase("όδος"));
+    EXPECT_EQ(UpperCase("a\xFF\xC3(\xED\xA0\x80z"), "A\xFF\xC3(\xED\xA0\x80Z");  // Not UTF-8: kept.
+}
+
+}  // namespace
+}  // namespace quenloft
