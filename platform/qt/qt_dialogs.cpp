@@ -1,0 +1,170 @@
+#include "platform/qt/qt_dialogs.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QFontDialog>
+#include <QInputDialog>
+#include <QLabel>
+#include <QMessageBox>
+
+#include "engine/program_title.h"
+#include "platform/qt/qt_file_filter.h"
+#include "platform/qt/qt_text.h"
+
+namespace quenloft {
+namespace {
+
+// Longer texts go into a box that scrolls: a label of that size would leave the screen.
+constexpr qsizetype kLongestLabel = 1500;
+constexpr qsizetype kMostLabelLines = 25;
+
+// No window is active while the program is in the background or has just lost the focus.
+QWidget* DialogParent() {
+    if (QWidget* modal = QApplication::activeModalWidget()) {
+        return modal;
+    }
+    if (QWidget* active = QApplication::activeWindow()) {
+        return active;
+    }
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->isVisible() && window->windowType() == Qt::Window) {
+            return window;
+        }
+    }
+    return nullptr;
+}
+
+void SetBoxText(QMessageBox& box, QString text) {
+    text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    box.setTextFormat(Qt::PlainText);
+    const QString head = text.section(u'\n', 0, kMostLabelLines - 1).left(kLongestLabel);
+    if (head.size() == text.size()) {
+        box.setText(text);
+        return;
+    }
+    box.setText(head + QStringLiteral(" …"));
+    box.setDetailedText(text);
+}
+
+QMessageBox::StandardButton ShowBox(const std::string& text, QMessageBox::Icon icon,
+                                    QMessageBox::StandardButtons buttons) {
+    QMessageBox box(icon, ToQt(ProgramTitle()), QString(), buttons, DialogParent());
+    SetBoxText(box, ToQt(text));
+    return static_cast<QMessageBox::StandardButton>(box.exec());
+}
+
+std::string ChosenFile(const QFileDialog& dialog) {
+    return QFile::encodeName(dialog.selectedFiles().value(0)).toStdString();
+}
+
+QString PathToQt(const std::string& nativePath) {
+    return QFile::decodeName(QByteArray::fromStdString(nativePath));
+}
+
+}  // namespace
+
+void QtDialogs::ShowMessage(const std::string& text, MessageIcon icon) {
+    const QMessageBox::Icon shown = icon == MessageIcon::Warning       ? QMessageBox::Warning
+                                    : icon == MessageIcon::Information ? QMessageBox::Information
+                                                                       : QMessageBox::NoIcon;
+    ShowBox(text, shown, QMessageBox::Ok);
+}
+
+Answer QtDialogs::AskYesNo(const std::string& text) {
+    const auto button = ShowBox(text, QMessageBox::Question, QMessageBox::Yes | QMessageBox::No);
+    return button == QMessageBox::Yes ? Answer::Yes : Answer::No;
+}
+
+Answer QtDialogs::AskYesNoCancel(const std::string& text) {
+    switch (ShowBox(text, QMessageBox::Question,
+                    QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel)) {
+        case QMessageBox::Yes:
+            return Answer::Yes;
+        case QMessageBox::No:
+            return Answer::No;
+        default:
+            return Answer::Cancel;
+    }
+}
+
+std::optional<std::string> QtDialogs::AskText(const std::string& prompt,
+                                              const std::string& defaultText) {
+    QInputDialog dialog(DialogParent());
+    dialog.setWindowTitle(ToQt(ProgramTitle()));
+    dialog.setLabelText(ToQt(prompt));
+    for (QLabel* label : dialog.findChildren<QLabel*>()) {
+        label->setTextFormat(Qt::PlainText);
+    }
+    dialog.setTextValue(ToQt(defaultText));
+    if (dialog.exec() != QDialog::Accepted) {
+        return std::nullopt;
+    }
+    return FromQt(dialog.textValue());
+}
+
+std::optional<std::string> QtDialogs::ChooseFileToOpen(const std::string& filter,
+                                                       const std::string& folder) {
+    QFileDialog dialog(DialogParent(), QStringLiteral("Open"), PathToQt(folder));
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    dialog.setNameFilters(ToNameFilters(filter));
+    if (dialog.exec() != QDialog::Accepted) {
+        return std::nullopt;
+    }
+    return ChosenFile(dialog);
+}
+
+std::optional<std::string> QtDialogs::ChooseFileToSave(const std::string& filter,
+                                                       const std::string& path) {
+    const QFileInfo begin(PathToQt(path));
+    const bool isFolder = begin.isDir();
+    QFileDialog dialog(DialogParent(), QStringLiteral("Save As"),
+                       isFolder ? begin.filePath() : begin.path());
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setNameFilters(ToNameFilters(filter));
+    if (!isFolder) {
+        dialog.selectFile(begin.fileName());
+    }
+    // The dialog completes a name before it asks about an existing file, but does not by itself
+    // complete it for the filter that the user changed to.
+    dialog.setDefaultSuffix(SuffixOf(dialog.selectedNameFilter()));
+    QObject::connect(
+        &dialog, &QFileDialog::filterSelected, &dialog,
+        [&dialog](const QString& chosen) { dialog.setDefaultSuffix(SuffixOf(chosen)); });
+    if (dialog.exec() != QDialog::Accepted) {
+        return std::nullopt;
+    }
+    return ChosenFile(dialog);
+}
+
+std::optional<std::string> QtDialogs::ChooseFolder(const std::string& title,
+                                                   const std::string& folder) {
+    QFileDialog dialog(DialogParent(), ToQt(title), PathToQt(folder));
+    dialog.setFileMode(QFileDialog::Directory);
+    dialog.setOption(QFileDialog::ShowDirsOnly);
+    if (dialog.exec() != QDialog::Accepted) {
+        return std::nullopt;
+    }
+    return ChosenFile(dialog);
+}
+
+std::optional<FontChoice> QtDialogs::ChooseFont(const FontChoice& initial) {
+    QFont font;
+    if (!initial.name.empty()) {
+        font.setFamily(ToQt(initial.name));
+    }
+    if (initial.size > 0) {
+        font.setPointSizeF(initial.size);
+    }
+    font.setBold(initial.bold);
+    font.setItalic(initial.italic);
+    QFontDialog dialog(font, DialogParent());
+    if (dialog.exec() != QDialog::Accepted) {
+        return std::nullopt;
+    }
+    const QFont chosen = dialog.selectedFont();
+    return FontChoice{FromQt(chosen.family()), chosen.pointSizeF(), chosen.bold(), chosen.italic()};
+}
+
+}  // namespace quenloft

@@ -1,0 +1,26 @@
+// Every box and dialog of the program, shown with the toolkit's own.
+#pragma once
+
+#include "platform/dialogs.h"
+
+namespace quenloft {
+
+/// Each dialog belongs to the window that the user works in, and takes its text as it stands:
+/// a "<" in a path begins no markup.
+class QtDialogs : public Dialogs {
+  public:
+    void ShowMessage(const std::string& text, MessageIcon icon) override;
+    Answer AskYesNo(const std::string& text) override;
+    Answer AskYesNoCancel(const std::string& text) override;
+    std::optional<std::string> AskText(const std::string& prompt,
+                                       const std::string& defaultText) override;
+    std::optional<std::string> ChooseFileToOpen(const std::string& filter,
+                                                const std::string& folder) override;
+    std::optional<std::string> ChooseFileToSave(const std::string& filter,
+                                                const std::string& path) override;
+    std::optional<std::string> ChooseFolder(const std::string& title,
+                                            const std::string& folder) override;
+    std::optional<FontChoice> ChooseFont(const FontChoice& initial) override;
+};
+
+}  // namespace quenloft

@@ -1,0 +1,111 @@
+#include "platform/qt/qt_printer.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QApplication>
+#include <QFile>
+#include <QPainter>
+#include <QPrintDialog>
+#include <QTextDocument>
+
+#include "platform/qt/qt_text.h"
+
+namespace quenloft {
+namespace {
+
+constexpr double kMarginMm = 20;
+constexpr double kFontPoints = 10;
+// The line of the page number, and the space above it.
+constexpr double kFootLines = 2;
+
+void SetUpDocument(QTextDocument& document, QPrinter& printer, const std::string& text) {
+    QFont font = QApplication::font();
+    font.setPointSizeF(kFontPoints);
+    document.setDocumentMargin(0);
+    document.documentLayout()->setPaintDevice(&printer);
+    document.setDefaultFont(font);
+    document.setPlainText(ToQt(text));
+    QSizeF page = printer.pageLayout().paintRectPixels(printer.resolution()).size();
+    page.rheight() -= kFootLines * QFontMetricsF(font, &printer).lineSpacing();
+    document.setPageSize(page);
+}
+
+void DrawPage(QPainter& painter, QTextDocument& document, int page) {
+    const QSizeF size = document.pageSize();
+    painter.save();
+    painter.translate(0, -page * size.height());
+    const QRectF part(0, page * size.height(), size.width(), size.height());
+    painter.setClipRect(part);
+    QAbstractTextDocumentLayout::PaintContext context;
+    // The screen's palette may be light text on dark; paper is white.
+    context.palette.setColor(QPalette::Text, Qt::black);
+    context.clip = part;
+    document.documentLayout()->draw(&painter, context);
+    painter.restore();
+
+    painter.setFont(document.defaultFont());
+    const double foot = painter.fontMetrics().lineSpacing() * kFootLines;
+    painter.drawText(QRectF(0, size.height(), size.width(), foot),
+                     Qt::AlignHCenter | Qt::AlignBottom,
+                     QStringLiteral("Page %1 of %2").arg(page + 1).arg(document.pageCount()));
+}
+
+// The printing system may stop taking data without a word; a PDF that is whole ends with its mark.
+bool IsWholePdf(const QString& path) {
+    QFile file(path);
+    constexpr qint64 kTail = 32;
+    return file.open(QIODevice::ReadOnly) && file.seek(qMax<qint64>(0, file.size() - kTail)) &&
+           file.readAll().contains("%%EOF");
+}
+
+}  // namespace
+
+bool ShowPrinterDialog(QPrinter& printer) {
+    QPrintDialog dialog(&printer, QApplication::activeWindow());
+    return dialog.exec() == QDialog::Accepted;
+}
+
+bool QtPrinter::ChoosePrinter() {
+    if (!printer_) {
+        printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
+        printer_->setPageMargins(QMarginsF(kMarginMm, kMarginMm, kMarginMm, kMarginMm),
+                                 QPageLayout::Millimeter);
+    }
+    return setUp_(*printer_);
+}
+
+std::string QtPrinter::PrintText(const std::string& text) {
+    const bool toFile = printer_ && printer_->outputFormat() == QPrinter::PdfFormat;
+    if (!printer_ || (toFile && printer_->outputFileName().isEmpty())) {
+        return "Nothing was printed: no printer is set up. Choose \"Print to File (PDF)\" instead.";
+    }
+    const std::string target =
+        FromQt(toFile ? printer_->outputFileName() : printer_->printerName());
+    const std::string failure = "The text could not be printed on " + target;
+    QTextDocument document;
+    SetUpDocument(document, *printer_, text);
+    QPainter painter;
+    if (!painter.begin(printer_.get())) {
+        return failure + ": it does not accept print jobs.";
+    }
+    const bool someOnly = printer_->printRange() == QPrinter::PageRange && printer_->fromPage() > 0;
+    const int first = someOnly ? qMin(printer_->fromPage(), document.pageCount()) - 1 : 0;
+    const int last =
+        someOnly ? qMin(printer_->toPage(), document.pageCount()) : document.pageCount();
+    for (int page = first; page < last; ++page) {
+        if (page > first && !printer_->newPage()) {
+            painter.end();
+            return failure + ": it stopped at page " + std::to_string(page + 1) + ".";
+        }
+        DrawPage(painter, document, page);
+    }
+    painter.end();
+    if (printer_->printerState() == QPrinter::Error) {
+        return failure + ": the printing system reports an error.";
+    }
+    if (toFile && !IsWholePdf(printer_->outputFileName())) {
+        return failure + ": the file was not written whole. Is the disk full?";
+    }
+    return {};
+}
+
+}  // namespace quenloft

@@ -1,0 +1,30 @@
+// The desktop's printers, and printing to a PDF file.
+#pragma once
+
+#include <QPrinter>
+#include <functional>
+#include <memory>
+
+#include "platform/printer.h"
+
+namespace quenloft {
+
+/// Lets the user set up `printer`; false on Cancel.
+using PrinterSetUp = std::function<bool(QPrinter& printer)>;
+
+/// The toolkit's printer dialog.
+bool ShowPrinterDialog(QPrinter& printer);
+
+class QtPrinter : public Printer {
+  public:
+    explicit QtPrinter(PrinterSetUp setUp = ShowPrinterDialog) : setUp_(std::move(setUp)) {}
+
+    bool ChoosePrinter() override;
+    std::string PrintText(const std::string& text) override;
+
+  private:
+    PrinterSetUp setUp_;
+    std::unique_ptr<QPrinter> printer_;  // Made when the user first prints.
+};
+
+}  // namespace quenloft

@@ -1,0 +1,76 @@
+#include "shell/child_window.h"
+
+#include <QCloseEvent>
+#include <QMdiSubWindow>
+#include <QMetaObject>
+
+#include "engine/engine.h"
+#include "shell/workspace.h"
+
+namespace quenloft {
+
+int TwipsToPixels(int twips) {
+    constexpr int kTwipsPerPixel = 15;
+    return twips / kTwipsPerPixel;
+}
+
+ChildWindow::ChildWindow(Workspace& workspace, const char* formName, const QString& caption,
+                         TwipsPoint place)
+    : workspace_(workspace), place_(place) {
+    setObjectName(QLatin1String(formName));
+    setWindowTitle(caption);
+}
+
+std::string ChildWindow::FormName() const { return objectName().toStdString(); }
+
+void ChildWindow::Arrange() {
+    // Inside the main window the frame around this widget is what moves.
+    QWidget* frame = parentWidget() ? parentWidget() : this;
+    frame->move(TwipsToPixels(place_.left), TwipsToPixels(place_.top));
+}
+
+QSize ChildWindow::OpeningSize(QSize area) const { return sizeHint().boundedTo(area); }
+
+QPlainTextEdit* ChildWindow::OutputBoxOf(const QWidget& /*control*/) { return nullptr; }
+
+void ChildWindow::Load(const std::string& /*path*/) {}
+
+void ChildWindow::CloseWindow() {
+    if (auto* frame = qobject_cast<QMdiSubWindow*>(parentWidget())) {
+        frame->close();
+    } else {
+        close();
+    }
+}
+
+void ChildWindow::CloseUnasked() {
+    asked_ = true;
+    CloseWindow();
+}
+
+void ChildWindow::closeEvent(QCloseEvent* event) {
+    if (running_) {
+        // The run below on the stack still uses this window.
+        closeAfterRun_ = true;
+        workspace_.Services().engine.SetAbortFlag();
+        event->ignore();
+        return;
+    }
+    if (!asked_ && !AskToSave()) {
+        event->ignore();
+        return;
+    }
+    SaveState();
+    event->accept();
+}
+
+void ChildWindow::EndRun() {
+    running_ = false;
+    if (closeAfterRun_) {
+        closeAfterRun_ = false;
+        // Queued: the handler that ran is still to return into this window.
+        QMetaObject::invokeMethod(this, &ChildWindow::CloseWindow, Qt::QueuedConnection);
+    }
+}
+
+}  // namespace quenloft

@@ -1,0 +1,84 @@
+// The base of every window inside the main window.
+#pragma once
+
+#include <QWidget>
+#include <string>
+#include <string_view>
+
+class QPlainTextEdit;
+
+namespace quenloft {
+
+class Workspace;
+
+/// A place inside the main window in twips: 15 twips are one pixel at 96 dpi.
+struct TwipsPoint {
+    int left = 0;
+    int top = 0;
+};
+
+/// `twips` in device-independent pixels.
+int TwipsToPixels(int twips);
+
+/// Name, place and closing; and the operations that menus and other windows call. An operation that
+/// a window does not have does nothing. What a window shows and does is its own affair.
+class ChildWindow : public QWidget {
+    Q_OBJECT
+
+  public:
+    /// `formName` is one of shell/form_names.h and becomes the object name.
+    ChildWindow(Workspace& workspace, const char* formName, const QString& caption,
+                TwipsPoint place);
+
+    std::string FormName() const;
+
+    /// Back to the window's fixed place, in the size it has.
+    void Arrange();
+    /// How large the window opens in a main window whose inside measures `area`.
+    virtual QSize OpeningSize(QSize area) const;
+
+    // --- What the menus route here. Text is UTF-8, lines end with CR LF. ---
+
+    virtual std::string Export() { return {}; }
+    virtual void PrintContent() {}
+    virtual void Copy() {}
+    virtual void Cut() {}
+    virtual void Paste() {}
+    /// The output box that the focused `control`, one of an array of buttons, stands for.
+    virtual QPlainTextEdit* OutputBoxOf(const QWidget& control);
+
+    // --- What other windows ask of one that they opened. Paths are library or native paths. ---
+
+    /// Lets the user choose a file and loads it.
+    virtual void OpenFile() {}
+    virtual void NewFile() {}
+    virtual void Load(const std::string& path);
+    virtual void Run() {}
+
+    // --- Closing. ---
+
+    /// Asks about unsaved work, and saves it when told to. False when the window must stay.
+    virtual bool AskToSave() { return true; }
+    /// Called once, when the window is about to go: what persists goes to the profile.
+    virtual void SaveState() {}
+    /// As if the user had clicked the window's close button.
+    void CloseWindow();
+    /// For a window that has been asked already.
+    void CloseUnasked();
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+
+    Workspace& workspace_;
+
+  private:
+    friend class GenerationRun;
+    void EndRun();
+
+    const TwipsPoint place_;
+    bool running_ = false;  // A run of this window is on the stack.
+    bool closeAfterRun_ = false;
+    bool asked_ = false;
+};
+
+}  // namespace quenloft

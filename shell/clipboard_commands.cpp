@@ -1,0 +1,171 @@
+#include "shell/clipboard_commands.h"
+
+#include <QAbstractButton>
+#include <QAbstractSpinBox>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QTextEdit>
+
+#include "platform/clipboard.h"
+#include "platform/qt/qt_text.h"
+#include "shell/child_window.h"
+#include "shell/form_names.h"
+#include "shell/text_box.h"
+
+namespace quenloft {
+namespace {
+
+// Windows that do more than their text boxes do.
+struct OwnCommands {
+    const char* formName;
+    void (ChildWindow::*copy)();
+    void (ChildWindow::*cut)();
+    void (ChildWindow::*paste)();
+};
+constexpr OwnCommands kOwnCommands[] = {
+    {form::kEditTable, &ChildWindow::Copy, &ChildWindow::Cut, &ChildWindow::Paste},
+};
+
+// Windows whose arrays of buttons stand for the output boxes that they fill.
+constexpr const char* kButtonsStandForBoxes[] = {form::kLists};
+
+void DoOwn(ChildWindow& child, void (ChildWindow::*OwnCommands::*command)()) {
+    for (const OwnCommands& own : kOwnCommands) {
+        if (child.FormName() == own.formName) {
+            (child.*(own.*command))();
+        }
+    }
+}
+
+QPlainTextEdit* BoxOfButton(ChildWindow& child, QWidget* control) {
+    for (const char* formName : kButtonsStandForBoxes) {
+        if (child.FormName() == formName && qobject_cast<QAbstractButton*>(control)) {
+            return child.OutputBoxOf(*control);
+        }
+    }
+    return nullptr;
+}
+
+QLineEdit* LineOf(QWidget* control) {
+    if (auto* line = qobject_cast<QLineEdit*>(control)) {
+        return line;
+    }
+    const bool holdsLine =
+        qobject_cast<QAbstractSpinBox*>(control) || qobject_cast<QComboBox*>(control);
+    return holdsLine ? control->findChild<QLineEdit*>() : nullptr;
+}
+
+void CopyOrCutLine(QLineEdit& line, Clipboard& clipboard, bool cut) {
+    clipboard.SetText(FromQt(line.hasSelectedText() ? line.selectedText() : line.text()));
+    if (cut && !line.isReadOnly()) {
+        if (!line.hasSelectedText()) {
+            line.selectAll();
+        }
+        line.insert(QString());
+    }
+}
+
+void CopyOrCutWhole(QPlainTextEdit& box, Clipboard& clipboard, bool cut) {
+    clipboard.SetText(WholeText(box));
+    if (cut) {
+        QTextCursor all(box.document());
+        all.select(QTextCursor::Document);
+        all.removeSelectedText();
+    }
+}
+
+void CopyOrCutBox(QPlainTextEdit& box, Clipboard& clipboard, bool cut) {
+    const bool mayCut = cut && !box.isReadOnly();
+    if (!box.textCursor().hasSelection()) {
+        CopyOrCutWhole(box, clipboard, mayCut);
+        return;
+    }
+    clipboard.SetText(SelectedText(box));
+    if (mayCut) {
+        box.textCursor().removeSelectedText();
+    }
+}
+
+void CopyOrCutRich(QTextEdit& box, Clipboard& clipboard, bool cut) {
+    QTextCursor cursor = box.textCursor();
+    if (!cursor.hasSelection()) {
+        return;
+    }
+    clipboard.SetText(
+        FromQt(cursor.selectedText().replace(QChar::ParagraphSeparator, QLatin1String("\r\n"))));
+    if (cut && !box.isReadOnly()) {
+        cursor.removeSelectedText();
+    }
+}
+
+void CopyOrCut(ChildWindow& child, Clipboard& clipboard, bool cut) {
+    QWidget* control = child.focusWidget();
+    if (!control) {
+        return;
+    }
+    if (QLineEdit* line = LineOf(control)) {
+        CopyOrCutLine(*line, clipboard, cut);
+    } else if (auto* box = qobject_cast<QPlainTextEdit*>(control)) {
+        CopyOrCutBox(*box, clipboard, cut);
+    } else if (auto* rich = qobject_cast<QTextEdit*>(control)) {
+        CopyOrCutRich(*rich, clipboard, cut);
+    } else if (QPlainTextEdit* output = BoxOfButton(child, control)) {
+        CopyOrCutWhole(*output, clipboard, cut);
+    }
+}
+
+void PasteText(QWidget* control, const QString& text) {
+    if (QLineEdit* line = LineOf(control)) {
+        if (!line->isReadOnly()) {
+            line->insert(QString(text).replace(u'\n', u' '));
+        }
+    } else if (auto* box = qobject_cast<QPlainTextEdit*>(control)) {
+        if (!box->isReadOnly()) {
+            box->insertPlainText(text);
+        }
+    } else if (auto* rich = qobject_cast<QTextEdit*>(control)) {
+        if (!rich->isReadOnly()) {
+            rich->insertPlainText(text);
+        }
+    }
+}
+
+}  // namespace
+
+void CopyFrom(ChildWindow* child, Clipboard& clipboard) {
+    if (child) {
+        CopyOrCut(*child, clipboard, false);
+        DoOwn(*child, &OwnCommands::copy);
+    }
+}
+
+void CutFrom(ChildWindow* child, Clipboard& clipboard) {
+    if (child) {
+        CopyOrCut(*child, clipboard, true);
+        DoOwn(*child, &OwnCommands::cut);
+    }
+}
+
+void PasteInto(ChildWindow* child, Clipboard& clipboard) {
+    if (child) {
+        PasteText(child->focusWidget(), ToQt(clipboard.GetText()));
+        DoOwn(*child, &OwnCommands::paste);
+    }
+}
+
+bool ClipboardKeysToMenu::eventFilter(QObject* /*watched*/, QEvent* event) {
+    if (event->type() != QEvent::ShortcutOverride) {
+        return false;
+    }
+    const auto* key = static_cast<QKeyEvent*>(event);
+    const bool isOurs = key->matches(QKeySequence::Cut) || key->matches(QKeySequence::Copy) ||
+                        key->matches(QKeySequence::Paste);
+    if (isOurs) {
+        event->ignore();
+    }
+    return isOurs;
+}
+
+}  // namespace quenloft

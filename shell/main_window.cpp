@@ -1,0 +1,225 @@
+#include "shell/main_window.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QLineEdit>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QStatusBar>
+#include <QTextEdit>
+
+#include "engine/engine.h"
+#include "engine/program_title.h"
+#include "platform/qt/qt_text.h"
+#include "shell/child_window.h"
+#include "shell/clipboard_commands.h"
+#include "shell/form_names.h"
+#include "shell/library_path.h"
+#include "shell/menu_builder.h"
+#include "shell/menu_table.h"
+#include "shell/print_export.h"
+#include "shell/settings_dialog.h"
+#include "shell/wait_cursor.h"
+#include "shell/window_arrangement.h"
+#include "shell/window_closing.h"
+#include "shell/window_geometry.h"
+#include "shell/window_list.h"
+
+namespace quenloft {
+
+frmMain::frmMain(const ServiceSet& services, std::vector<WindowKind> windowKinds)
+    : services_(services),
+      windowKinds_(std::move(windowKinds)),
+      mdiArea_(new QMdiArea(this)),
+      clipboardKeys_(new ClipboardKeysToMenu(this)) {
+    setObjectName(QStringLiteral("frmMain"));
+    setWindowTitle(ToQt(ProgramTitle()));
+    constexpr QSize kNormalSize(1000, 700);
+    resize(kNormalSize);
+    setCentralWidget(mdiArea_);
+    BuildMenuBar();
+    runIndicator_ = std::make_unique<RunIndicator>(*findChild<QAction*>("mnuAbort"), *statusBar());
+    connect(qApp, &QApplication::focusChanged, this, &frmMain::FollowFocus);
+}
+
+frmMain::~frmMain() = default;
+
+void frmMain::StartUp() {
+    const WaitCursor wait;
+    ShowAtSavedGeometry(*this, services_.profile);
+    EnterLibrary(services_.profile, services_.files);
+    fontSettings_ = LoadFontSettings(services_.profile);
+    Open(form::kExplorer);
+}
+
+std::string frmMain::LibraryPath() { return ReadLibraryPath(services_.profile); }
+
+void frmMain::ApplyFontSettings(QWidget& target, int fontClass) {
+    quenloft::ApplyFontSettings(fontSettings_, target, fontClass);
+}
+
+void frmMain::EnableAbort() {
+    services_.engine.ClearAbortFlag();
+    runIndicator_->Begin();
+}
+
+void frmMain::DisableAbort() {
+    runIndicator_->End();
+    services_.engine.ClearAbortFlag();
+    switch (std::exchange(afterRun_, AfterRun::Nothing)) {
+        case AfterRun::Nothing:
+            break;
+        // Queued: the window that ran is still on the stack.
+        case AfterRun::CloseAll:
+            QMetaObject::invokeMethod(this, &frmMain::CloseAll, Qt::QueuedConnection);
+            break;
+        case AfterRun::Exit:
+            QMetaObject::invokeMethod(this, &frmMain::Exit, Qt::QueuedConnection);
+            break;
+    }
+}
+
+bool frmMain::IsRunning() const {
+    return runIndicator_->IsRunning() || services_.engine.IsRunning();
+}
+
+bool frmMain::CanOpen(std::string_view formName) const { return KindOf(formName) != nullptr; }
+
+ChildWindow* frmMain::Open(std::string_view formName) {
+    const WindowKind* kind = KindOf(formName);
+    if (!kind) {
+        return nullptr;
+    }
+    ChildWindow* child = kind->instances == Instances::One ? FindOpen(formName) : nullptr;
+    if (!child) {
+        child = kind->make(*this);
+        AddChild(*child);
+    }
+    auto* frame = qobject_cast<QMdiSubWindow*>(child->parentWidget());
+    if (frame->isMinimized()) {
+        frame->showNormal();
+    }
+    frame->show();
+    mdiArea_->setActiveSubWindow(frame);
+    return child;
+}
+
+void frmMain::ShowSettings() { frmSettings(services_, fontSettings_, this).exec(); }
+
+void frmMain::Print() { PrintWindow(ActiveChild(), services_); }
+
+void frmMain::Export() { ExportWindow(ActiveChild(), services_); }
+
+void frmMain::Exit() { close(); }
+
+void frmMain::Cut() { CutFrom(ActiveChild(), services_.clipboard); }
+
+void frmMain::Copy() { CopyFrom(ActiveChild(), services_.clipboard); }
+
+void frmMain::Paste() { PasteInto(ActiveChild(), services_.clipboard); }
+
+void frmMain::CloseAll() {
+    if (!PutOffWhileRunning(AfterRun::CloseAll)) {
+        CloseAllWindows(*mdiArea_);
+    }
+}
+
+void frmMain::Cascade() { ArrangeWindows(*mdiArea_, Arrangement::Cascade); }
+
+void frmMain::TileVertically() { ArrangeWindows(*mdiArea_, Arrangement::TileVertically); }
+
+void frmMain::TileHorizontally() { ArrangeWindows(*mdiArea_, Arrangement::TileHorizontally); }
+
+void frmMain::ArrangeAll() {
+    for (QMdiSubWindow* frame : mdiArea_->subWindowList()) {
+        if (auto* child = qobject_cast<ChildWindow*>(frame->widget())) {
+            frame->showNormal();
+            child->Arrange();
+        }
+    }
+}
+
+void frmMain::AbortRun() { services_.engine.SetAbortFlag(); }
+
+void frmMain::closeEvent(QCloseEvent* event) {
+    if (PutOffWhileRunning(AfterRun::Exit) || !CloseAllWindows(*mdiArea_)) {
+        event->ignore();
+        return;
+    }
+    insertionTarget_.clear();
+    SaveWindowGeometry(*this, services_.profile);
+    event->accept();
+}
+
+void frmMain::BuildMenuBar() {
+    BuildMenus(
+        *menuBar(), MenuTable(),
+        [this](const MenuEntry& entry) { return !entry.form || CanOpen(entry.form); },
+        [this](const MenuEntry& entry) { Choose(entry); });
+    KeepWindowList(*findChild<QMenu*>("mnuWindow"), *mdiArea_);
+}
+
+void frmMain::Choose(const MenuEntry& entry) {
+    if (entry.command) {
+        (this->*entry.command)();
+        return;
+    }
+    ChildWindow* child = Open(entry.form);
+    if (child && entry.afterwards) {
+        (child->*entry.afterwards)();
+    }
+}
+
+void frmMain::FollowFocus(QWidget* old, QWidget* now) {
+    if (old) {
+        old->removeEventFilter(clipboardKeys_);
+    }
+    const bool isTextBox = qobject_cast<QLineEdit*>(now) || qobject_cast<QPlainTextEdit*>(now) ||
+                           qobject_cast<QTextEdit*>(now);
+    if (isTextBox && mdiArea_->isAncestorOf(now)) {
+        now->installEventFilter(clipboardKeys_);
+    }
+}
+
+bool frmMain::PutOffWhileRunning(AfterRun what) {
+    if (!IsRunning()) {
+        return false;
+    }
+    afterRun_ = qMax(afterRun_, what);
+    services_.engine.SetAbortFlag();
+    return true;
+}
+
+const WindowKind* frmMain::KindOf(std::string_view formName) const {
+    for (const WindowKind& kind : windowKinds_) {
+        if (kind.formName == formName) {
+            return &kind;
+        }
+    }
+    return nullptr;
+}
+
+ChildWindow* frmMain::FindOpen(std::string_view formName) const {
+    for (const QMdiSubWindow* frame : mdiArea_->subWindowList()) {
+        auto* child = qobject_cast<ChildWindow*>(frame->widget());
+        if (child && child->FormName() == formName) {
+            return child;
+        }
+    }
+    return nullptr;
+}
+
+ChildWindow* frmMain::ActiveChild() const {
+    const QMdiSubWindow* frame = mdiArea_->currentSubWindow();
+    return frame ? qobject_cast<ChildWindow*>(frame->widget()) : nullptr;
+}
+
+void frmMain::AddChild(ChildWindow& child) {
+    QMdiSubWindow* frame = mdiArea_->addSubWindow(&child);
+    frame->resize(child.OpeningSize(mdiArea_->viewport()->size()));
+    child.Arrange();
+}
+
+}  // namespace quenloft

@@ -1,0 +1,60 @@
+#include "shell/window_list.h"
+
+#include <QAction>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+
+namespace quenloft {
+namespace {
+
+constexpr char kListEntry[] = "windowListEntry";
+
+void Clear(QMenu& menu) {
+    for (QAction* action : menu.actions()) {
+        if (action->objectName() == QLatin1String(kListEntry)) {
+            menu.removeAction(action);
+            action->deleteLater();
+        }
+    }
+}
+
+QString CaptionOf(const QMdiSubWindow& window, int number) {
+    QString title = window.windowTitle();
+    title.replace(u'&', QLatin1String("&&"));
+    constexpr int kDigits = 9;
+    return QStringLiteral("%1%2 %3")
+        .arg(QLatin1String(number <= kDigits ? "&" : ""))
+        .arg(number)
+        .arg(title);
+}
+
+void Fill(QMenu& menu, QMdiArea& area) {
+    Clear(menu);
+    const auto windows = area.subWindowList();
+    if (windows.isEmpty()) {
+        return;
+    }
+    menu.addSeparator()->setObjectName(QLatin1String(kListEntry));
+    int number = 0;
+    for (QMdiSubWindow* window : windows) {
+        QAction* action = menu.addAction(CaptionOf(*window, ++number));
+        action->setObjectName(QLatin1String(kListEntry));
+        action->setCheckable(true);
+        action->setChecked(window == area.currentSubWindow());
+        QObject::connect(action, &QAction::triggered, window, [&area, window] {
+            if (window->isMinimized()) {
+                window->showNormal();
+            }
+            area.setActiveSubWindow(window);
+        });
+    }
+}
+
+}  // namespace
+
+void KeepWindowList(QMenu& menu, QMdiArea& area) {
+    QObject::connect(&menu, &QMenu::aboutToShow, &area, [&menu, &area] { Fill(menu, area); });
+}
+
+}  // namespace quenloft
