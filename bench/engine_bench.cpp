@@ -184,8 +184,17 @@ void ScriptLoop(benchmark::State& state) {
     for (int i = 0; i < 990; ++i) {
         script += ";line " + std::to_string(i) + "\r\n";
     }
-    script += "LABEL:again\r\n??n=INC1??\r\nIF ??n??<" + std::to_string(kRounds) +
-              "\r\nGOTO:again\r\nEND IF\r\nLABEL:end\r\n";
+    script += "LABEL:again\r\n";
+    script +=
+        "?"
+        "?n=INC1?"
+        "?\r\n";  // Split: "??<" would be a trigraph.
+    script +=
+        "IF ?"
+        "?n?"
+        "?<" +
+        std::to_string(kRounds) + "\r\n";
+    script += "GOTO:again\r\nEND IF\r\nLABEL:end\r\n";
     parts.folder.Write("loop.spt", script);
     const std::string path = parts.folder.LibraryPath("loop.spt");
     for (auto _ : state) {

@@ -1,4 +1,6 @@
 // Expanding an entry's text: dice, variables, line breaks, references, and the duplicate rule.
+#include <array>
+
 #include "engine/expression.h"
 #include "engine/failure.h"
 #include "engine/interpreter.h"
@@ -24,6 +26,24 @@ constexpr std::string_view kReferenceMarkName = "reference mark (number sign)";
 Failure NoPartner(std::string_view nameOfMark) {
     return {FailureNumber::InvalidArgument,
             "A " + std::string(nameOfMark) + " has no partner in the text"};
+}
+
+constexpr std::array<bool, 256> kFirstOfMark = [] {
+    std::array<bool, 256> first{};
+    for (const unsigned char c : std::string_view("@?|#")) {
+        first[c] = true;
+    }
+    return first;
+}();
+
+/// Most entries that are rolled hold no mark: one look is cheaper than one for each kind.
+bool HoldsMarks(std::string_view text) {
+    for (const char c : text) {
+        if (kFirstOfMark[static_cast<unsigned char>(c)]) {
+            return true;
+        }
+    }
+    return false;
 }
 
 void ReplaceLineBreakMarks(std::string& text) {
@@ -54,6 +74,9 @@ std::string Interpreter::ExpandEntry(std::string_view text) {
         return std::string(kAbortedText);
     }
     std::string expanded(text);
+    if (!HoldsMarks(text)) {
+        return expanded;
+    }
     ReplaceMarks(expanded, kDiceMark, kDiceMarkName, [&](std::string_view notation) {
         std::string dice(notation);
         SubstituteVariables(dice);
@@ -133,16 +156,10 @@ void Interpreter::ReplaceMarks(std::string& text, std::string_view mark,
 
 std::string Interpreter::ExpandReference(const Reference& reference, std::string_view referringText,
                                          bool tablesOnly) {
-    std::string name(reference.file);
-    if (name.starts_with('\\')) {
-        // Resolved once: a repeat must not look where the first roll has led the current directory.
-        name.insert(0, files_.CurrentDirectory());
-    }
-    const std::string file = ResolveFileKind(std::move(name));
-    const bool isTable = tablesOnly || !IsScriptPath(file);
+    const std::shared_ptr<const ReferenceTarget> target = targets_.Find(reference.file);
     const auto roll = [&] {
-        return tablesOnly ? RollTable(file, 0)
-                          : GetReferenceData(file, reference.forcedRoll, isTable);
+        return tablesOnly ? RollTarget(*target, 0)
+                          : GetReferenceData(*target, reference.forcedRoll);
     };
     std::string result;
     for (std::int32_t i = 0; i < reference.count; ++i) {

@@ -8,10 +8,17 @@
 #include <unordered_map>
 #include <vector>
 
+#include "engine/table_file.h"
 #include "engine/text_map.h"
 #include "platform/file_system.h"
 
 namespace quenloft {
+
+/// The header of a table that could be read, and the number of lines up to it.
+struct HeaderNote {
+    TableHeader header;
+    std::size_t lineCount = 0;
+};
 
 /// The entries of a table whose bounds rise, for bisection.
 struct EntryIndex {
@@ -28,6 +35,7 @@ struct ScriptIndex {
 };
 
 struct FileNotes : TextFile::Notes {
+    std::unique_ptr<HeaderNote> header;
     std::unique_ptr<EntryIndex> entries;
     std::unique_ptr<ScriptIndex> script;
 };

@@ -35,7 +35,8 @@ Interpreter::Interpreter(FileSystem& files, RandomSource& random, EngineHost& ho
     : files_(files),
       random_(random),
       host_(host),
-      dice_(random, host, [this] { return TakeTurn(); }) {}
+      dice_(random, host, [this] { return TakeTurn(); }),
+      targets_(files) {}
 
 void Interpreter::ResetGeneration() {
     rollCounts_.Clear();

@@ -19,6 +19,7 @@
 #include "engine/dice.h"
 #include "engine/host.h"
 #include "engine/open_file_cache.h"
+#include "engine/reference_targets.h"
 #include "engine/roll_counts.h"
 #include "engine/value.h"
 #include "engine/variable_store.h"
@@ -75,12 +76,13 @@ class Interpreter {
 
     // table_roller.cpp
     struct RollReport;
-    std::string RollOpenTable(std::string_view path, std::int32_t forcedRoll, RollReport& report);
+    std::string RollTarget(const ReferenceTarget& target, std::int32_t forcedRoll);
+    std::string RollOpenTable(const ReferenceTarget& target, std::int32_t forcedRoll,
+                              RollReport& report);
     std::int32_t Roll(std::int32_t total, std::int32_t modifier, std::int32_t forcedRoll);
     std::string FailedRollText(std::string_view path, const RollReport& report,
                                const std::string& description) const;
-    std::string GetReferenceData(std::string_view path, std::int32_t forcedRoll, bool isTable);
-    std::string ResolveFileKind(std::string name);
+    std::string GetReferenceData(const ReferenceTarget& target, std::int32_t forcedRoll);
     void EnterFolder(std::string_view folder);
 
     // script_interpreter.cpp
@@ -106,6 +108,7 @@ class Interpreter {
     VariableStore variables_;
     RollCounts rollCounts_;
     OpenFileCache openFiles_;
+    ReferenceTargets targets_;
     bool abortFlag_ = false;
     std::vector<std::string_view> chain_;  // The files that are at work, outermost first.
     std::uintptr_t stackFloor_ = 0;

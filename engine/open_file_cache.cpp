@@ -1,7 +1,5 @@
 #include "engine/open_file_cache.h"
 
-#include <utility>
-
 #include "engine/failure.h"
 
 namespace quenloft {
@@ -13,16 +11,15 @@ std::string_view FileHandle::ReadLine() {
     return file_->Line(next_++);
 }
 
-OpenedFile::OpenedFile(OpenFileCache& cache, std::string_view path,
-                       std::shared_ptr<const TextFile> file)
+OpenedFile::OpenedFile(OpenFileCache& cache, std::string_view path, const TextFile& file)
     : cache_(cache), path_(path), handle_(&own_) {
     for (OpenedFile* other = cache.innermost_; other != nullptr; other = other->outer_) {
-        if (other->path_ == path && other->own_.file_->Path() == file->Path()) {
+        if (other->path_ == path && other->own_.file_->Path() == file.Path()) {
             handle_ = &other->own_;
             return;
         }
     }
-    own_.file_ = std::move(file);
+    own_.file_ = &file;
     outer_ = cache.innermost_;
     cache.innermost_ = this;
     registered_ = true;

@@ -6,7 +6,6 @@
 #pragma once
 
 #include <cstddef>
-#include <memory>
 #include <string_view>
 
 #include "platform/file_system.h"
@@ -29,16 +28,17 @@ class FileHandle {
 
   private:
     friend class OpenedFile;
-    std::shared_ptr<const TextFile> file_;
+    const TextFile* file_ = nullptr;
     std::size_t next_ = 0;
 };
 
 /// Opens a file or joins the reader that has it open; closes it at the end where it opened it.
 class OpenedFile {
   public:
-    /// `path` is the key, compared exactly; `file` is what it names now. A handle under the same
-    /// key that belongs to another file (of the same name, in another folder) is not shared.
-    OpenedFile(OpenFileCache& cache, std::string_view path, std::shared_ptr<const TextFile> file);
+    /// `path` is the key, compared exactly; `file` is what it names now, and the caller keeps it. A
+    /// handle under the same key that belongs to another file (of the same name, in another folder)
+    /// is not shared.
+    OpenedFile(OpenFileCache& cache, std::string_view path, const TextFile& file);
     ~OpenedFile() { Close(); }
     OpenedFile(const OpenedFile&) = delete;
     OpenedFile& operator=(const OpenedFile&) = delete;

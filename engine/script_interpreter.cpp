@@ -171,11 +171,8 @@ void ScriptRun::AppendAborted() {
 }
 
 std::string Interpreter::RunScript(std::string_view path, bool fromRunner) {
-    std::string absolute;
-    if (path.starts_with('\\')) {
-        absolute = files_.CurrentDirectory() + std::string(path);
-        path = absolute;
-    }
+    const std::string fullPath = FromCurrentDirectory(files_, path);
+    path = fullPath;
     const ChainLink link(*this, path);
     const FolderId savedFolder = files_.CurrentFolder();
     const std::string_view folder = DirectoryPart(path);
@@ -186,7 +183,8 @@ std::string Interpreter::RunScript(std::string_view path, bool fromRunner) {
         if (!folder.empty()) {
             EnterFolder(folder);
         }
-        OpenedFile opened(openFiles_, path, files_.OpenText(FileName(path)));
+        const std::shared_ptr<const TextFile> file = files_.OpenText(FileName(path));
+        OpenedFile opened(openFiles_, path, *file);
         run.Run(opened.Handle());
         failed = false;
     } catch (const Failure& failure) {
@@ -205,7 +203,7 @@ std::string Interpreter::RunScript(std::string_view path, bool fromRunner) {
     if (failed || fromRunner || run.output.empty()) {
         return std::move(run.output);
     }
-    return ApplyCaseOfScriptName(path, std::move(run.output));
+    return ApplyCaseOfScriptName(LetterCaseOfName(path), std::move(run.output));
 }
 
 /// A script given with a drive leaves the current directory at its own folder, any other the one

@@ -83,6 +83,12 @@ std::string ReadTitle(LineReader& lines) {
 }
 
 void ReadHeader(FileHandle& handle, TableHeader& header) {
+    std::unique_ptr<HeaderNote>& note = NotesOf(handle.File()).header;
+    if (note) {
+        header = note->header;
+        handle.GoTo(note->lineCount);
+        return;
+    }
     handle.Rewind();
     if (handle.AtEnd()) {
         return;
@@ -105,6 +111,7 @@ void ReadHeader(FileHandle& handle, TableHeader& header) {
     if (modifier != std::string_view::npos) {
         header.modifier = header.line.substr(modifier);
     }
+    note = std::make_unique<HeaderNote>(HeaderNote{header, handle.Position()});
 }
 
 std::string ReadEntry(FileHandle& handle, std::int32_t roll, std::int32_t total) {

@@ -32,30 +32,28 @@ void Interpreter::EnterFolder(std::string_view folder) {
 }
 
 std::string Interpreter::RollTable(std::string_view path, std::int32_t forcedRoll) {
-    std::string absolute;
-    if (path.starts_with('\\')) {
-        absolute = files_.CurrentDirectory() + std::string(path);
-        path = absolute;
-    }
-    const ChainLink link(*this, path);
+    return RollTarget(ReferenceTarget(FromCurrentDirectory(files_, path)), forcedRoll);
+}
+
+std::string Interpreter::RollTarget(const ReferenceTarget& target, std::int32_t forcedRoll) {
+    const ChainLink link(*this, target.path);
     const FolderId savedFolder = files_.CurrentFolder();
-    const std::string_view tableFolder = HasDrive(path) ? DirectoryPart(path) : std::string_view{};
     // A table given with a drive leaves the current directory at its own folder, any other table
     // the one that was current before: libraries count on the difference.
     const auto resetDirectory = [&] {
-        if (tableFolder.empty()) {
-            files_.SetCurrentFolder(savedFolder);
+        if (target.hasDrive) {
+            EnterFolder(target.Folder());
         } else {
-            EnterFolder(tableFolder);
+            files_.SetCurrentFolder(savedFolder);
         }
     };
     RollReport report;
     std::string description;
     try {
-        if (const std::string_view folder = DirectoryPart(path); !folder.empty()) {
-            EnterFolder(folder);
+        if (target.folderLength > 0) {
+            EnterFolder(target.Folder());
         }
-        std::string result = RollOpenTable(path, forcedRoll, report);
+        std::string result = RollOpenTable(target, forcedRoll, report);
         resetDirectory();
         return result;
     } catch (const Failure& failure) {
@@ -64,16 +62,15 @@ std::string Interpreter::RollTable(std::string_view path, std::int32_t forcedRol
         description = DescriptionOf(error);
     }
     resetDirectory();
-    return FailedRollText(path, report, description);
+    return FailedRollText(target.path, report, description);
 }
 
-std::string Interpreter::RollOpenTable(std::string_view path, std::int32_t forcedRoll,
+std::string Interpreter::RollOpenTable(const ReferenceTarget& target, std::int32_t forcedRoll,
                                        RollReport& report) {
-    std::string name(FileBaseName(path));
-    name.append(".").append(FileExtension(path));
-    report.file = files_.OpenText(name);
+    report.file = target.text && target.look == files_.Look() ? target.text
+                                                              : files_.OpenText(target.fileName);
     {
-        OpenedFile opened(openFiles_, path, report.file);
+        OpenedFile opened(openFiles_, target.path, *report.file);
         ReadHeader(opened.Handle(), report.header);
         const std::int32_t modifier =
             report.header.modifier.empty() ? 0 : NumericValue(ExpandEntry(report.header.modifier));
@@ -81,7 +78,7 @@ std::string Interpreter::RollOpenTable(std::string_view path, std::int32_t force
         report.entry = ReadEntry(opened.Handle(), report.roll, report.header.total);
     }
     std::string result = ExpandEntry(report.entry);
-    return result.empty() ? result : ApplyCaseOfTableName(path, std::move(result));
+    return result.empty() ? result : ApplyCaseOfTableName(target.letterCase, std::move(result));
 }
 
 std::int32_t Interpreter::Roll(std::int32_t total, std::int32_t modifier, std::int32_t forcedRoll) {
@@ -115,33 +112,15 @@ std::string Interpreter::FailedRollText(std::string_view path, const RollReport&
     return text.append(description);
 }
 
-std::string Interpreter::GetReferenceData(std::string_view path, std::int32_t forcedRoll,
-                                          bool isTable) {
+std::string Interpreter::GetReferenceData(const ReferenceTarget& target, std::int32_t forcedRoll) {
     try {
-        return isTable ? RollTable(path, forcedRoll) : RunScript(path, /*fromRunner=*/false);
+        return target.isScript ? RunScript(target.path, /*fromRunner=*/false)
+                               : RollTarget(target, forcedRoll);
     } catch (const Failure&) {
-        return FailedReferenceText(path);
+        return FailedReferenceText(target.path);
     } catch (const FileError&) {
-        return FailedReferenceText(path);
+        return FailedReferenceText(target.path);
     }
-}
-
-std::string Interpreter::ResolveFileKind(std::string name) {
-    if (IsScriptPath(name) || IsTablePath(name)) {
-        return name;
-    }
-    const std::size_t size = name.size();
-    // Names match without regard to case, so ".TBL" is found as well.
-    name += ".tbl";
-    if (files_.FileExists(name)) {
-        return name;
-    }
-    name.replace(size, 4, ".spt");
-    if (files_.FileExists(name)) {
-        return name;
-    }
-    name.resize(size);
-    return name;
 }
 
 }  // namespace quenloft

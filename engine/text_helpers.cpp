@@ -23,16 +23,6 @@ std::string_view NameForCase(std::string_view path) {
     return name.substr(0, name.rfind('.'));
 }
 
-std::string ApplyCaseOfName(std::string_view name, std::string text) {
-    if (!IsCapital(name, 0)) {
-        return text;
-    }
-    if (IsCapital(name, 1)) {
-        return UpperCase(text);
-    }
-    return IsCapital(name, name.size() - 1) ? CapitaliseWords(text) : UpperCaseFirst(text);
-}
-
 bool EndsWithExtension(std::string_view path, std::string_view extension) {
     if (path.size() <= extension.size() || path[path.size() - extension.size() - 1] != '.') {
         return false;
@@ -102,18 +92,42 @@ std::string CapitaliseWords(std::string_view text) {
     return result;
 }
 
-std::string ApplyCaseOfTableName(std::string_view path, std::string text) {
+LetterCase LetterCaseOfName(std::string_view path) {
     const std::string_view name = NameForCase(path);
-    if (name.size() == 1 && IsCapital(name, 0)) {
-        throw Failure(FailureNumber::InvalidArgument,
-                      "The name of the table, " + std::string(name) +
-                          ", is one capital letter: a second letter must say which case is meant");
+    if (!IsCapital(name, 0)) {
+        return LetterCase::AsItStands;
     }
-    return ApplyCaseOfName(name, std::move(text));
+    if (name.size() == 1) {
+        return LetterCase::OneCapital;
+    }
+    if (IsCapital(name, 1)) {
+        return LetterCase::AllLetters;
+    }
+    return IsCapital(name, name.size() - 1) ? LetterCase::EveryWord : LetterCase::FirstLetter;
 }
 
-std::string ApplyCaseOfScriptName(std::string_view path, std::string text) {
-    return ApplyCaseOfName(NameForCase(path), std::move(text));
+std::string ApplyCaseOfTableName(LetterCase letterCase, std::string text) {
+    if (letterCase == LetterCase::OneCapital) {
+        throw Failure(FailureNumber::InvalidArgument,
+                      "The table's name is one capital letter: a second letter must say which case "
+                      "is meant");
+    }
+    return ApplyCaseOfScriptName(letterCase, std::move(text));
+}
+
+std::string ApplyCaseOfScriptName(LetterCase letterCase, std::string text) {
+    switch (letterCase) {
+        case LetterCase::AsItStands:
+            break;
+        case LetterCase::FirstLetter:
+            return UpperCaseFirst(text);
+        case LetterCase::EveryWord:
+        case LetterCase::OneCapital:
+            return CapitaliseWords(text);
+        case LetterCase::AllLetters:
+            return UpperCase(text);
+    }
+    return text;
 }
 
 bool IsScriptPath(std::string_view path) { return EndsWithExtension(path, "spt"); }

@@ -36,12 +36,15 @@ std::string_view FileExtension(std::string_view path);
 /// without a blank gets its first letter upper-cased only. Throws Failure for an empty text.
 std::string CapitaliseWords(std::string_view text);
 
-/// Gives a result the case that the name of its file asks for: "names" as it stands, "Names" first
-/// letter, "NameS" every word, "NAMES" all letters. `path` is spelled as in the reference.
-/// `text` is not empty. Throws Failure for a name of one capital letter.
-std::string ApplyCaseOfTableName(std::string_view path, std::string text);
-/// The same for scripts, where a name of one capital letter asks for every word.
-std::string ApplyCaseOfScriptName(std::string_view path, std::string text);
+/// The case that the name of a file asks for in its result: "names" as it stands, "Names" first
+/// letter, "NameS" every word, "NAMES" all letters. OneCapital is a name like "N": every word for a
+/// script, but a table needs a second letter.
+enum class LetterCase { AsItStands, FirstLetter, EveryWord, AllLetters, OneCapital };
+/// `path` is spelled as in the reference.
+LetterCase LetterCaseOfName(std::string_view path);
+/// `text` is not empty. Throws Failure for OneCapital.
+std::string ApplyCaseOfTableName(LetterCase letterCase, std::string text);
+std::string ApplyCaseOfScriptName(LetterCase letterCase, std::string text);
 
 /// True when the last four characters are ".spt", whatever their case.
 bool IsScriptPath(std::string_view path);

@@ -87,6 +87,8 @@ class FileSystem {
     /// From now on the state of files and folders on disk is looked at anew, each at its next use.
     /// Called when a generation starts and when the program has let other programs have a turn.
     virtual void LookAgain() = 0;
+    /// The number of the present look. While it stays the same, so does everything that was found.
+    virtual std::uint64_t Look() const = 0;
     virtual bool FileExists(std::string_view path) = 0;
     virtual bool FolderExists(std::string_view path) = 0;
     /// The full library path of `path`, with the disk's spelling where it exists.

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 
 namespace quenloft {
 
@@ -24,6 +25,12 @@ class RandomSource {
 
     /// The next value, uniform with 53 random bits: 0 <= value < 1.
     virtual double Next() = 0;
+    /// The next values, one for each element.
+    virtual void NextValues(std::span<double> values) {
+        for (double& value : values) {
+            value = Next();
+        }
+    }
     /// Folds the timer's present reading into the running state. The state is never replaced: a
     /// generator restarted from a clock would give equal rolls within one of its ticks.
     virtual void ReseedFromTimer() = 0;

@@ -126,7 +126,7 @@ std::string LinuxFileSystem::ReadBytes(std::string_view path) {
 }
 
 void LinuxFileSystem::WriteBytes(std::string_view path, std::string_view bytes) {
-    LookAgain();
+    finder_.LookAgainAtOnce();
     const Place& place = Find(path);
     if (place.IsFolder()) {
         throw IsAFolder(ShownPath(place));
@@ -135,11 +135,11 @@ void LinuxFileSystem::WriteBytes(std::string_view path, std::string_view bytes) 
         RequireParent(place);
     }
     WriteFileAtomically(place.diskPath, bytes);
-    LookAgain();
+    finder_.LookAgainAtOnce();
 }
 
 void LinuxFileSystem::CreateFolder(std::string_view path) {
-    LookAgain();
+    finder_.LookAgainAtOnce();
     const Place& place = Find(path);
     if (!place.IsMissing()) {
         throw SystemRefused(EEXIST, ShownPath(place));
@@ -148,11 +148,11 @@ void LinuxFileSystem::CreateFolder(std::string_view path) {
     if (mkdir(place.diskPath.c_str(), 0777) != 0) {
         throw SystemRefused(errno, ShownPath(place));
     }
-    LookAgain();
+    finder_.LookAgainAtOnce();
 }
 
 void LinuxFileSystem::DeleteFile(std::string_view path) {
-    LookAgain();
+    finder_.LookAgainAtOnce();
     const Place& place = Find(path);
     if (place.IsFolder()) {
         throw IsAFolder(ShownPath(place));
@@ -164,7 +164,7 @@ void LinuxFileSystem::DeleteFile(std::string_view path) {
     if (unlink(place.diskPath.c_str()) != 0) {
         throw SystemRefused(errno, ShownPath(place));
     }
-    LookAgain();
+    finder_.LookAgainAtOnce();
 }
 
 }  // namespace quenloft

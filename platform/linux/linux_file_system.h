@@ -25,6 +25,7 @@ class LinuxFileSystem : public FileSystem {
     void SyncProcessDirectory() override;
 
     void LookAgain() override { finder_.LookAgain(); }
+    std::uint64_t Look() const override { return finder_.Look(); }
     bool FileExists(std::string_view path) override;
     bool FolderExists(std::string_view path) override;
     std::string AbsolutePath(std::string_view path) override;

@@ -62,6 +62,7 @@ Place& PathFinder::FindAnew(FolderId base, std::string_view path) {
     ++memoCount_;
     Place& place =
         folders_[base].memo.emplace(std::string(path), Resolve(base, path)).first->second;
+    watch_.Watch(ParentPath(place.diskPath));
     place.look_ = look_;
     return place;
 }

@@ -11,6 +11,7 @@
 #include <unordered_map>
 
 #include "platform/file_system.h"
+#include "platform/linux/change_watch.h"
 #include "platform/linux/file_stamp.h"
 #include "platform/linux/folder_index.h"
 #include "platform/linux/path_translation.h"
@@ -67,7 +68,13 @@ class PathFinder {
     const std::string& LibraryPath(Place& place);
 
     /// From now on everything is looked at anew, at its next use.
-    void LookAgain() { ++look_; }
+    void LookAgain() {
+        if (watch_.MayHaveChanged()) {
+            ++look_;
+        }
+    }
+    /// The same where this program itself has changed something.
+    void LookAgainAtOnce() { ++look_; }
     std::uint64_t Look() const { return look_; }
 
     /// The number of the folder at an absolute path on disk, which need not exist any more.
@@ -100,6 +107,7 @@ class PathFinder {
     Place ResolveName(FolderId folder, std::string_view name, bool tryExact);
     void ForgetMemos();
 
+    ChangeWatch watch_;
     std::deque<Folder> folders_;
     std::unordered_map<std::string, FolderId> numbers_;
     std::uint64_t look_ = 1;

@@ -38,6 +38,11 @@ class SystemRandomSource final : public RandomSource {
         constexpr double kScale = 1.0 / 9007199254740992.0;  // 2^-53: all that a double resolves.
         return static_cast<double>(generator_() >> 11) * kScale;
     }
+    void NextValues(std::span<double> values) override {
+        for (double& value : values) {
+            value = SystemRandomSource::Next();
+        }
+    }
     void ReseedFromTimer() override { generator_.Fold(TimerReading()); }
     void Reseed(double number) override { generator_.Fold(std::bit_cast<std::uint64_t>(number)); }
     double TickCount() override { return std::floor(static_cast<double>(TimerReading()) / 1e6); }

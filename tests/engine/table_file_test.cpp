@@ -44,7 +44,7 @@ std::string RandomTable(std::mt19937& generator) {
 std::string ResultOf(std::string (*read)(FileHandle&, std::int32_t, std::int32_t),
                      const std::shared_ptr<const TextFile>& file, std::int32_t roll) {
     OpenFileCache cache;
-    OpenedFile opened(cache, "t", file);
+    OpenedFile opened(cache, "t", *file);
     TableHeader header;
     ReadHeader(opened.Handle(), header);
     std::string text = read(opened.Handle(), roll, header.total);

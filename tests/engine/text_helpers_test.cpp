@@ -61,11 +61,13 @@ TEST(TextHelpers, NameOfTheFileChoosesTheCase) {
         {"a.tbl", "bob de la cour", "bob de la cour"},
     };
     for (const auto& c : cases) {
-        EXPECT_EQ(ApplyCaseOfTableName(c.path, "bob de la cour"), c.table) << c.path;
-        EXPECT_EQ(ApplyCaseOfScriptName(c.path, "bob de la cour"), c.script) << c.path;
+        EXPECT_EQ(ApplyCaseOfTableName(LetterCaseOfName(c.path), "bob de la cour"), c.table)
+            << c.path;
+        EXPECT_EQ(ApplyCaseOfScriptName(LetterCaseOfName(c.path), "bob de la cour"), c.script)
+            << c.path;
     }
-    EXPECT_THROW(ApplyCaseOfTableName("A.tbl", "bob"), Failure);
-    EXPECT_EQ(ApplyCaseOfScriptName("A.spt", "bob smith"), "Bob Smith");
+    EXPECT_THROW(ApplyCaseOfTableName(LetterCaseOfName("A.tbl"), "bob"), Failure);
+    EXPECT_EQ(ApplyCaseOfScriptName(LetterCaseOfName("A.spt"), "bob smith"), "Bob Smith");
 }
 
 TEST(LetterCase, CoversUnicodeWhateverTheLocale) {
