@@ -2,6 +2,7 @@
 
 #include <chrono>
 
+#include "engine/interpreter.h"
 #include "engine/numbers.h"
 #include "engine/text_helpers.h"
 
@@ -31,6 +32,10 @@ void RunRounds(int rounds, const RoundsWork& work) {
         }
         piece += work.roll();
         if (work.isAborted()) {
+            // A round that was finished when the command came does not say so itself.
+            if (!piece.ends_with(kAbortedText)) {
+                piece.append(kLineBreak).append(kLineBreak).append(kAbortedText);
+            }
             break;
         }
         if (Clock::now() - lastPiece >= kBetweenPieces) {

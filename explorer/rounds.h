@@ -22,7 +22,8 @@ struct RoundsWork {
 };
 
 /// The results, two line breaks between them, appended in few pieces: not one by one, and yet so
-/// often that the user sees the run going on. After an abort no further round begins.
+/// often that the user sees the run going on. After an abort the output ends with
+/// "Process Aborted!" and no further round begins.
 void RunRounds(int rounds, const RoundsWork& work);
 
 }  // namespace quenloft

@@ -44,7 +44,11 @@ frmMain::frmMain(const ServiceSet& services, std::vector<WindowKind> windowKinds
     connect(qApp, &QApplication::focusChanged, this, &frmMain::FollowFocus);
 }
 
-frmMain::~frmMain() = default;
+frmMain::~frmMain() {
+    // While this is still a workspace: the base class would come too late.
+    disconnect(qApp, nullptr, this, nullptr);
+    delete mdiArea_;
+}
 
 void frmMain::StartUp() {
     const WaitCursor wait;
@@ -133,9 +137,9 @@ void frmMain::TileVertically() { ArrangeWindows(*mdiArea_, Arrangement::TileVert
 void frmMain::TileHorizontally() { ArrangeWindows(*mdiArea_, Arrangement::TileHorizontally); }
 
 void frmMain::ArrangeAll() {
+    RestoreWindows(*mdiArea_);
     for (QMdiSubWindow* frame : mdiArea_->subWindowList()) {
         if (auto* child = qobject_cast<ChildWindow*>(frame->widget())) {
-            frame->showNormal();
             child->Arrange();
         }
     }

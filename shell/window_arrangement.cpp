@@ -70,4 +70,18 @@ void ArrangeWindows(QMdiArea& area, Arrangement arrangement) {
     }
 }
 
+void RestoreWindows(QMdiArea& area) {
+    // The maximised ones first: as long as there is one, a window that is restored becomes
+    // maximised.
+    const auto restore = [&area](bool (QWidget::*isOfState)() const) {
+        for (QMdiSubWindow* window : area.subWindowList()) {
+            if ((window->*isOfState)()) {
+                window->showNormal();
+            }
+        }
+    };
+    restore(&QWidget::isMaximized);
+    restore(&QWidget::isMinimized);
+}
+
 }  // namespace quenloft

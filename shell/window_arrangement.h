@@ -20,4 +20,7 @@ std::vector<QRect> WindowPlaces(Arrangement arrangement, const QRect& area, int 
 /// ones keep their strip at the bottom, which stays free.
 void ArrangeWindows(QMdiArea& area, Arrangement arrangement);
 
+/// Makes minimised and maximised windows normal.
+void RestoreWindows(QMdiArea& area);
+
 }  // namespace quenloft

@@ -1,0 +1,354 @@
+#include "explorer/explorer_window.h"
+
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QPushButton>
+#include <QTimer>
+#include <QTreeView>
+
+#include "engine/program_title.h"
+#include "engine/value.h"
+#include "explorer/library_model.h"
+#include "explorer/popup.h"
+#include "shell/form_names.h"
+#include "shell/text_box.h"
+#include "tests/support/windows_fixture.h"
+
+namespace quenloft {
+namespace {
+
+constexpr char kOrc[] =
+    "Orcs\xA4"
+    "1\r\n\r\n1\xA7"
+    "An orc.\r\n";
+constexpr char kEndless[] = "LABEL:a\r\nGOTO:a\r\n";
+
+class ExplorerTest : public WindowsFixture {
+  protected:
+    ExplorerTest() {
+        SetLibrary("lib");
+        folder.Write("lib/orcs.tbl", kOrc);
+        folder.Write("lib/sub/Village.spt", "A village.\r\n");
+    }
+
+    void SetLibrary(const std::string& name) {
+        profile.WriteProfileString("Settings", "Libpath", folder.Path(name),
+                                   profile.GetProfileFileName());
+    }
+    void Open() {
+        ShowMainWindow(window);
+        explorer = window.Open(form::kExplorer);
+        tree = explorer->findChild<QTreeView*>("treExplorer");
+        out = explorer->findChild<TextBox*>("txtOut");
+        WaitUntilRead();
+    }
+    void WaitUntilRead() {
+        ASSERT_TRUE(QTest::qWaitFor([this] { return !Model().IsReading(); }));
+    }
+    LibraryModel& Model() { return *qobject_cast<LibraryModel*>(tree->model()); }
+    /// The row labelled `label`, with the folders above it open.
+    QModelIndex Row(const QString& label) {
+        const auto found = tree->model()->match(tree->model()->index(0, 0), Qt::DisplayRole, label,
+                                                1, Qt::MatchExactly | Qt::MatchRecursive);
+        EXPECT_EQ(found.size(), 1) << label.toStdString();
+        const QModelIndex index = found.value(0);
+        for (QModelIndex above = index.parent(); above.isValid(); above = above.parent()) {
+            tree->expand(above);
+        }
+        return index;
+    }
+    void Press(const QString& label, Qt::MouseButton button) {
+        const QModelIndex row = Row(label);
+        QTest::mouseClick(tree->viewport(), button, {}, tree->visualRect(row).center());
+    }
+    QPushButton* Button(const char* name) { return explorer->findChild<QPushButton*>(name); }
+    /// Opens the popup of a row and chooses an item (none where `item` is empty); the items in the
+    /// order of the popup, "-" for a separator, those disabled in parentheses.
+    QStringList Popup(const QString& label, const QString& item) {
+        QStringList items;
+        QTimer::singleShot(0, [&items, &item] {
+            auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            ASSERT_TRUE(menu);
+            QAction* chosen = nullptr;
+            for (QAction* action : menu->actions()) {
+                const QString text = action->isSeparator() ? "-" : action->text();
+                items << (action->isEnabled() || action->isSeparator() ? text : "(" + text + ")");
+                chosen = text == item ? action : chosen;
+            }
+            if (chosen) {
+                menu->setActiveAction(chosen);
+                QTest::keyClick(menu, Qt::Key_Return);
+            } else {
+                menu->close();
+            }
+        });
+        emit tree->customContextMenuRequested(tree->visualRect(Row(label)).center());
+        return items;
+    }
+
+    frmMain window{Services(), {{form::kExplorer, Instances::One, [](Workspace& workspace) {
+                                     return new frmExplorer(workspace);
+                                 }}}};
+    ChildWindow* explorer = nullptr;
+    QTreeView* tree = nullptr;
+    TextBox* out = nullptr;
+};
+
+TEST_F(ExplorerTest, OneClickRunsATableOrScriptAndNothingElseDoes) {
+    Open();
+    Press("Orcs", Qt::LeftButton);
+    EXPECT_EQ(out->Text(), "An orc.");
+    Press("Village", Qt::LeftButton);
+    EXPECT_EQ(out->Text(), "A village.");
+    EXPECT_EQ(files.CurrentDirectory(), folder.LibraryPath("lib/sub"));
+
+    out->SetText("untouched");
+    Press("sub", Qt::LeftButton);
+    Press("Orcs", Qt::RightButton);
+    QTest::keyClick(tree, Qt::Key_Down);
+    EXPECT_EQ(out->Text(), "untouched");
+}
+
+TEST_F(ExplorerTest, EnterRunsTheSelectedFileAndOpensAFolder) {
+    Open();
+    tree->setCurrentIndex(Row("Orcs"));
+    QTest::keyClick(tree, Qt::Key_Return);
+    EXPECT_EQ(out->Text(), "An orc.");
+    tree->setCurrentIndex(Row("sub"));
+    EXPECT_FALSE(tree->isExpanded(Row("sub")));
+    QTest::keyClick(tree, Qt::Key_Enter);
+    EXPECT_TRUE(tree->isExpanded(Row("sub")));
+    EXPECT_EQ(out->Text(), "An orc.");
+}
+
+TEST_F(ExplorerTest, RunsAsOftenAsAsked) {
+    Open();
+    tree->setCurrentIndex(Row("Orcs"));
+    explorer->findChild<QLineEdit*>("txtTimes")->setText("3");
+    Button("btnRun")->click();
+    EXPECT_EQ(out->Text(), "An orc.\r\n\r\nAn orc.\r\n\r\nAn orc.");
+}
+
+TEST_F(ExplorerTest, ATableChangedOnDiskShowsItsNewContentAtTheNextClick) {
+    Open();
+    Press("Orcs", Qt::LeftButton);
+    folder.Write("lib/orcs.tbl",
+                 "Orcs\xA4"
+                 "1\r\n\r\n1\xA7"
+                 "Two orcs.\r\n");
+    Press("Orcs", Qt::LeftButton);
+    EXPECT_EQ(out->Text(), "Two orcs.");
+}
+
+TEST_F(ExplorerTest, AFileThatWentAwayGivesTheEnginesText) {
+    Open();
+    const QModelIndex village = Row("Village");
+    std::filesystem::remove_all(folder.Path("lib/sub"));
+    tree->setCurrentIndex(village);
+    Button("btnRun")->click();
+    EXPECT_NE(out->Text(), "");
+    EXPECT_NE(out->Text(), "A village.");
+}
+
+TEST_F(ExplorerTest, WhileARunIsGoingOnNoSecondOneStarts) {
+    folder.Write("lib/endless.spt", kEndless);
+    Open();
+    bool clicked = false;
+    QTimer::singleShot(0, [&] {
+        Press("Orcs", Qt::LeftButton);
+        Button("btnRun")->click();
+        clicked = true;
+        Choose(window, "mnuAbort");
+    });
+    tree->setCurrentIndex(Row("endless"));
+    Button("btnRun")->click();
+    EXPECT_TRUE(clicked);
+    EXPECT_EQ(out->Text(), "Process Aborted!");
+    EXPECT_FALSE(window.IsRunning());
+}
+
+TEST_F(ExplorerTest, AbortEndsARunOfManyRounds) {
+    Open();
+    explorer->findChild<QLineEdit*>("txtTimes")->setText("100000");
+    QTimer::singleShot(0, [&] { Choose(window, "mnuAbort"); });
+    tree->setCurrentIndex(Row("Orcs"));
+    Button("btnRun")->click();
+    EXPECT_TRUE(out->Text().ends_with("\r\n\r\nProcess Aborted!"));
+}
+
+TEST_F(ExplorerTest, ClosedDuringItsRunItGoesWhenTheRunHasEnded) {
+    folder.Write("lib/endless.spt", kEndless);
+    Open();
+    const QPointer<ChildWindow> alive = explorer;
+    QTimer::singleShot(0, [&] { explorer->CloseWindow(); });
+    tree->setCurrentIndex(Row("endless"));
+    Button("btnRun")->click();
+    ASSERT_TRUE(alive);
+    QTest::qWait(0);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_FALSE(alive);
+    EXPECT_TRUE(window.isVisible());
+}
+
+TEST_F(ExplorerTest, ThePopupsOfferWhatTheProgramHas) {
+    Open();
+    EXPECT_EQ(Popup("Orcs", "").join(", "),
+              "Run, (Run As New Instance), -, (Edit), Delete, -, Refresh, Create new directory");
+    EXPECT_EQ(Popup("sub", "").join(", "), "Create new directory");
+    EXPECT_EQ(out->Text(), "") << "dismissed";
+    Popup("Orcs", "Run");
+    EXPECT_EQ(out->Text(), "An orc.");
+}
+
+TEST_F(ExplorerTest, ButtonsFollowTheSelection) {
+    Open();
+    const auto enabled = [this] {
+        QStringList names;
+        for (const char* name :
+             {"btnRun", "btnRunAsNew", "btnEdit", "btnDelete", "btnNewDirectory", "btnRefresh"}) {
+            if (Button(name)->isEnabled()) {
+                names << name;
+            }
+        }
+        return names.join(" ").toStdString();
+    };
+    tree->setCurrentIndex(Row("Orcs"));
+    EXPECT_EQ(enabled(), "btnRun btnDelete btnNewDirectory btnRefresh");
+    tree->setCurrentIndex(Row("sub"));
+    EXPECT_EQ(enabled(), "btnNewDirectory btnRefresh");
+    tree->setCurrentIndex({});
+    EXPECT_EQ(enabled(), "btnRefresh");
+}
+
+TEST_F(ExplorerTest, DeletingAsksAndPrefersTheTrash) {
+    Open();
+    const std::string path = folder.Path("lib/orcs.tbl");
+    tree->setCurrentIndex(Row("Orcs"));
+    dialogs.WillAnswer(Answer::No);
+    Button("btnDelete")->click();
+    EXPECT_EQ(
+        dialogs.TakeLog(),
+        std::vector<std::string>{"yes or no: Do You really want to delete Orcs (" + path + ")?"});
+    EXPECT_TRUE(std::filesystem::exists(path));
+    EXPECT_TRUE(desktop.trashed.empty());
+
+    desktop.hasTrash = true;
+    dialogs.WillAnswer(Answer::Yes);
+    Button("btnDelete")->click();
+    EXPECT_EQ(desktop.trashed, std::vector<std::string>{path});
+    EXPECT_TRUE(std::filesystem::exists(path)) << "what is in the trash is not deleted as well";
+
+    WaitUntilRead();
+    desktop.hasTrash = false;
+    tree->setCurrentIndex(Row("Orcs"));
+    dialogs.WillAnswer(Answer::Yes);
+    Button("btnDelete")->click();
+    EXPECT_FALSE(std::filesystem::exists(path));
+    WaitUntilRead();
+    EXPECT_EQ(Model().rowCount(Model().index(0, 0, {})), 1);
+}
+
+TEST_F(ExplorerTest, AFileThatCannotBeDeletedSaysWhy) {
+    Open();
+    tree->setCurrentIndex(Row("Orcs"));
+    std::filesystem::remove(folder.Path("lib/orcs.tbl"));
+    files.LookAgain();
+    dialogs.WillAnswer(Answer::Yes);
+    dialogs.WillConfirm();
+    Button("btnDelete")->click();
+    EXPECT_EQ(dialogs.TakeLog().back(),
+              "warning: File not found: " + folder.Path("lib/orcs.tbl") + ".");
+}
+
+TEST_F(ExplorerTest, CreatesADirectoryBesideAFileOrInAFolder) {
+    Open();
+    dialogs.WillGive("New Folder");
+    Popup("sub", "Create new directory");
+    EXPECT_TRUE(std::filesystem::is_directory(folder.Path("lib/sub/New Folder")));
+    EXPECT_EQ(tree->currentIndex().data(), "New Folder");
+    EXPECT_EQ(dialogs.TakeLog(),
+              std::vector<std::string>{"text: Enter new directory name [New Folder]"});
+
+    tree->setCurrentIndex(Row("Orcs"));
+    dialogs.WillGive("Beside");
+    Button("btnNewDirectory")->click();
+    EXPECT_TRUE(std::filesystem::is_directory(folder.Path("lib/Beside")));
+
+    dialogs.WillGive("");
+    Button("btnNewDirectory")->click();
+    dialogs.WillCancel();
+    Button("btnNewDirectory")->click();
+    dialogs.TakeLog();
+    tree->setCurrentIndex(Row("sub"));
+    dialogs.WillGive("Village.spt");
+    dialogs.WillConfirm();
+    Button("btnNewDirectory")->click();
+    EXPECT_TRUE(QString::fromStdString(dialogs.TakeLog().back())
+                    .startsWith("warning: Error i directory popup!\r\n"));
+}
+
+TEST_F(ExplorerTest, AMissingLibraryNamesTheCure) {
+    SetLibrary("nowhere");
+    Open();
+    EXPECT_EQ(out->Text(), "The library folder " + folder.Path("nowhere") +
+                               " cannot be shown: the folder does not exist.\r\n\r\nChoose the "
+                               "folder of your tables under File, Settings, Library Path; then "
+                               "click Refresh.");
+    SetLibrary("lib");
+    Button("btnRefresh")->click();
+    Press("Orcs", Qt::LeftButton);
+    EXPECT_EQ(out->Text(), "An orc.");
+}
+
+TEST_F(ExplorerTest, WithoutALibraryPathTheExecutablesFolderIsShown) {
+    profile.WriteProfileString("Settings", "Libpath", "", profile.GetProfileFileName());
+    Open();
+    EXPECT_EQ(Model().PathOf(Model().index(0, 0, {})), folder.LibraryPath());
+}
+
+TEST_F(ExplorerTest, RefreshKeepsOpenFoldersAndTheSelection) {
+    Open();
+    tree->setCurrentIndex(Row("Village"));
+    folder.Write("lib/bats.tbl",
+                 "Bats\xA4"
+                 "1\r\n1\xA7"
+                 "A bat.\r\n");
+    Button("btnRefresh")->click();
+    WaitUntilRead();
+    EXPECT_TRUE(tree->isExpanded(Row("sub")));
+    EXPECT_EQ(tree->currentIndex(), Row("Village"));
+    EXPECT_TRUE(Row("Bats").isValid());
+}
+
+TEST_F(ExplorerTest, ExportsTheOutputWithAFooter) {
+    Open();
+    Press("Orcs", Qt::LeftButton);
+    EXPECT_EQ(explorer->Export(), "An orc.\r\n\r\nFilename : " + folder.Path("lib/orcs.tbl") +
+                                      "\r\nPrinted by " + ProgramTitle() + " " +
+                                      DateTimeText().substr(0, 10));
+}
+
+TEST(Popup, GivesTheKeyOfTheChosenItem) {
+    QWidget owner;
+    clsPopup popup;
+    popup.AddItem("first", "One", 0, 0, {}, {});
+    popup.AddItem("line", "", kSeparatorItem, 0, {}, {});
+    popup.AddItem("grey", "Two", 0, kDisabledItem, {}, {});
+    popup.AddItem("ticked", "Three", 0, kCheckedItem, {}, {});
+    for (const char* key : {"first", "ticked"}) {
+        QTimer::singleShot(0, [key] {
+            auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            ASSERT_TRUE(menu);
+            EXPECT_FALSE(menu->actions()[2]->isEnabled());
+            EXPECT_TRUE(menu->actions()[3]->isChecked());
+            menu->setActiveAction(menu->actions()[key == std::string("first") ? 0 : 3]);
+            QTest::keyClick(menu, Qt::Key_Return);
+        });
+        EXPECT_EQ(popup.PopupMenu(owner, QPoint()), key);
+    }
+}
+
+}  // namespace
+}  // namespace quenloft

@@ -1,0 +1,158 @@
+#include "explorer/library_model.h"
+
+#include <QAbstractItemModelTester>
+#include <QSignalSpy>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include "platform/linux/linux_file_system.h"
+#include "tests/support/temp_folder.h"
+
+namespace quenloft {
+namespace {
+
+class LibraryModelTest : public testing::Test {
+  protected:
+    void Load(bool showHidden = false) { model.Reload(folder.Path("lib"), showHidden); }
+    void WaitUntilRead() {
+        ASSERT_TRUE(QTest::qWaitFor([this] { return !model.IsReading(); }, 60'000));
+    }
+    /// The rows below `parent`, indented by depth; rows that were never read are not there.
+    std::string Tree(const QModelIndex& parent = {}, int depth = 0) {
+        std::string text;
+        for (int row = 0; row < model.rowCount(parent); ++row) {
+            const QModelIndex index = model.index(row, 0, parent);
+            text += std::string(static_cast<std::size_t>(depth), ' ') + model.LabelOf(index) + "\n";
+            text += Tree(index, depth + 1);
+        }
+        return text;
+    }
+    /// Fails where the model breaks the rules that views rely on.
+    static void Watch(LibraryModel& watched) {
+        auto* tester = new QAbstractItemModelTester(
+            &watched, QAbstractItemModelTester::FailureReportingMode::Fatal, &watched);
+        tester->setUseFetchMore(false);
+    }
+    QModelIndex Root() { return model.index(0, 0, {}); }
+
+    TempFolder folder;
+    LinuxFileSystem files;
+    int titlesRead = 0;
+    LibraryModel model{files, [this](const std::string& path) {
+                           ++titlesRead;
+                           return "Title of " + path.substr(path.rfind('\\') + 1);
+                       }};
+};
+
+TEST_F(LibraryModelTest, SortsFoldersTablesAndScriptsTogether) {
+    folder.Write("lib/zoo/lion.tbl", "");
+    folder.Write("lib/Village.spt", "");
+    folder.Write("lib/names.tbl", "");
+    folder.Write("lib/apes/.hidden.tbl", "");
+    folder.Write("lib/readme.txt", "");
+    Load();
+    WaitUntilRead();
+    EXPECT_EQ(Tree(), "lib\n apes\n Title of names.tbl\n Village\n zoo\n  Title of lion.tbl\n");
+    Load(true);
+    WaitUntilRead();
+    EXPECT_EQ(Tree(),
+              "lib\n apes\n  Title of .hidden.tbl\n Title of names.tbl\n Village\n zoo\n"
+              "  Title of lion.tbl\n");
+}
+
+TEST_F(LibraryModelTest, TheTopLevelIsThereAtOnceWhateverTheSizeOfTheLibrary) {
+    for (int i = 0; i < 50; ++i) {
+        for (int j = 0; j < 10; ++j) {
+            folder.Write("lib/folder" + std::to_string(i) + "/" + std::to_string(j) + ".tbl", "");
+        }
+    }
+    Load();
+    EXPECT_EQ(model.rowCount(Root()), 50);
+    EXPECT_EQ(titlesRead, 0) << "titles of folders that nobody has opened";
+    WaitUntilRead();
+    EXPECT_EQ(titlesRead, 500);
+}
+
+TEST_F(LibraryModelTest, AnOpenedFolderComesBeforeTheRest) {
+    for (const char* name : {"lib/a/x.tbl", "lib/b/x.tbl", "lib/c/x.tbl"}) {
+        folder.Write(name, "");
+    }
+    Load();
+    const QModelIndex last = model.index(2, 0, Root());
+    ASSERT_TRUE(model.canFetchMore(last));
+    model.fetchMore(last);
+    EXPECT_EQ(Tree(), "lib\n a\n b\n c\n  Title of x.tbl\n");
+}
+
+TEST_F(LibraryModelTest, RowsOfAFolderAppearTogetherAndInOrder) {
+    for (int i = 0; i < 300; ++i) {
+        folder.Write("lib/big/" + std::to_string(i) + ".tbl", "");
+    }
+    LibraryModel slow(files, [](const std::string& path) {
+        QTest::qSleep(1);  // A disk that turns slowly.
+        return path;
+    });
+    Watch(slow);
+    const QSignalSpy inserted(&slow, &QAbstractItemModel::rowsInserted);
+    slow.Reload(folder.Path("lib"), false);
+    const QModelIndex big = slow.index(0, 0, slow.index(0, 0, {}));
+    slow.fetchMore(big);
+    EXPECT_EQ(slow.rowCount(big), 0);
+    EXPECT_EQ(big.data(), "big (reading...)");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !slow.IsReading(); }));
+    EXPECT_EQ(big.data(), "big");
+    EXPECT_EQ(slow.rowCount(big), 300);
+    EXPECT_EQ(inserted.count(), 2) << "one for the library's folder, one for the big one";
+}
+
+TEST_F(LibraryModelTest, LinksBackToAParentEnd) {
+    namespace fs = std::filesystem;
+    folder.Write("lib/a/x.tbl", "");
+    folder.Write("lib/b/y.tbl", "");
+    fs::create_directory_symlink(folder.Path("lib"), folder.Path("lib/a/up"));
+    fs::create_directory_symlink(folder.Path("lib/b"), folder.Path("lib/a/toB"));
+    fs::create_directory_symlink(folder.Path("lib/a"), folder.Path("lib/b/toA"));
+    fs::create_directory_symlink(".", folder.Path("lib/b/self"));
+    Load();
+    WaitUntilRead();
+    const std::string x = "Title of x.tbl\n";
+    const std::string y = "Title of y.tbl\n";
+    EXPECT_EQ(Tree(), "lib\n a\n  " + x + "  toB\n  up\n b\n  self\n  " + y + "  toA\n");
+    // What is reached by two ways is read when it is opened, and ends there too.
+    model.fetchMore(model.index(1, 0, model.index(0, 0, Root())));
+    model.fetchMore(model.index(2, 0, model.index(1, 0, Root())));
+    WaitUntilRead();
+    EXPECT_EQ(Tree(), "lib\n a\n  " + x + "  toB\n   self\n   " + y +
+                          "   toA\n  up\n b\n  self\n  " + y + "  toA\n   " + x +
+                          "   toB\n   up\n");
+}
+
+TEST_F(LibraryModelTest, AFolderThatCannotBeListedSaysWhyInItsToolTip) {
+    folder.Write("lib/gone/x.tbl", "");
+    LibraryModel lazy(files, [](const std::string&) { return std::string("T"); });
+    lazy.Reload(folder.Path("lib"), false);
+    std::filesystem::remove_all(folder.Path("lib/gone"));
+    files.LookAgain();
+    const QModelIndex gone = lazy.index(0, 0, lazy.index(0, 0, {}));
+    lazy.fetchMore(gone);
+    EXPECT_FALSE(lazy.hasChildren(gone));
+    EXPECT_EQ(gone.data(Qt::ToolTipRole).toString().toStdString(),
+              folder.Path("lib/gone") + "\nPath not found: " + folder.Path("lib/gone"));
+}
+
+TEST_F(LibraryModelTest, ReloadingOneFolderSeesItsNewContent) {
+    folder.Write("lib/a/x.tbl", "");
+    folder.Write("lib/b/y.tbl", "");
+    Watch(model);
+    Load();
+    WaitUntilRead();
+    folder.Write("lib/a/New Folder/z.tbl", "");
+    model.ReloadFolder(model.index(0, 0, Root()));
+    WaitUntilRead();
+    EXPECT_EQ(Tree(),
+              "lib\n a\n  New Folder\n   Title of z.tbl\n  Title of x.tbl\n b\n"
+              "  Title of y.tbl\n");
+}
+
+}  // namespace
+}  // namespace quenloft

@@ -1,0 +1,139 @@
+#include "shell/clipboard_commands.h"
+
+#include <QLineEdit>
+#include <QTextEdit>
+
+#include "shell/form_names.h"
+#include "tests/support/recording_window.h"
+#include "tests/support/windows_fixture.h"
+
+namespace quenloft {
+namespace {
+
+class ClipboardCommandsTest : public WindowsFixture {
+  protected:
+    ClipboardCommandsTest() { ShowMainWindow(window); }
+
+    RecordingWindow& Open(const char* formName) {
+        next = formName;
+        auto* child = static_cast<RecordingWindow*>(window.Open(form::kScript));
+        child->setObjectName(formName);
+        return *child;
+    }
+    /// `text` with "[" and "]" around the selection.
+    static void Fill(QPlainTextEdit& box, QString text) {
+        const auto from = static_cast<int>(text.indexOf('['));
+        const auto to = static_cast<int>(text.indexOf(']')) - 1;
+        box.setPlainText(text.remove('[').remove(']'));
+        QTextCursor cursor = box.textCursor();
+        cursor.setPosition(qMax(0, from));
+        cursor.setPosition(qMax(0, to), QTextCursor::KeepAnchor);
+        box.setTextCursor(cursor);
+        box.setFocus();
+    }
+
+    const char* next = "";
+    frmMain window{Services(), {{form::kScript, Instances::Many, [this](Workspace& workspace) {
+                                     return new RecordingWindow(workspace, next);
+                                 }}}};
+};
+
+TEST_F(ClipboardCommandsTest, TextBoxesActOnTheSelectionOrOnTheWholeText) {
+    RecordingWindow& child = Open(form::kScript);
+    const struct {
+        const char* command;
+        const char* box;
+        const char* clipboardBefore;
+        const char* boxAfter;
+        const char* clipboardAfter;
+    } cases[] = {
+        {"mnuEdit_Copy", "one [two] three", "", "one two three", "two"},
+        {"mnuEdit_Copy", "one\ntwo", "", "one\ntwo", "one\r\ntwo"},
+        {"mnuEdit_Cut", "one [two] three", "", "one  three", "two"},
+        {"mnuEdit_Cut", "one two", "", "", "one two"},
+        {"mnuEdit_Paste", "one [two] three", "2", "one 2 three", "2"},
+        {"mnuEdit_Paste", "one [] three", "two\n", "one two\n three", "two\n"},
+    };
+    for (const auto& c : cases) {
+        Fill(*child.txtOut, c.box);
+        clipboard.text = c.clipboardBefore;
+        Choose(window, c.command);
+        EXPECT_EQ(child.txtOut->toPlainText(), c.boxAfter) << c.command << " on " << c.box;
+        EXPECT_EQ(clipboard.text, c.clipboardAfter) << c.command << " on " << c.box;
+    }
+    EXPECT_TRUE(child.asked.empty()) << "only the table editor has commands of its own";
+}
+
+TEST_F(ClipboardCommandsTest, ALineOfTextFollowsTheSameRules) {
+    RecordingWindow& child = Open(form::kScript);
+    auto* line = new QLineEdit("one two", &child);
+    line->show();
+    line->setFocus();
+    Choose(window, "mnuEdit_Cut");
+    EXPECT_EQ(line->text(), "");
+    EXPECT_EQ(clipboard.text, "one two");
+    clipboard.text = "a\nb";
+    Choose(window, "mnuEdit_Paste");
+    EXPECT_EQ(line->text(), "a b");
+    line->setReadOnly(true);
+    Choose(window, "mnuEdit_Cut");
+    EXPECT_EQ(line->text(), "a b");
+}
+
+TEST_F(ClipboardCommandsTest, KeysDoWhatTheMenuDoes) {
+    RecordingWindow& child = Open(form::kScript);
+    Fill(*child.txtOut, "all of it");
+    QTest::keyClick(child.txtOut, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(clipboard.text, "all of it");
+    QTest::keyClick(child.txtOut, Qt::Key_X, Qt::ControlModifier);
+    QTest::keyClick(child.txtOut, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(child.txtOut->toPlainText(), "all of it") << "pasted twice, or not at all";
+}
+
+TEST_F(ClipboardCommandsTest, AButtonOfTheListPageStandsForItsOutputBox) {
+    for (const char* formName : {form::kLists, form::kScript}) {
+        RecordingWindow& child = Open(formName);
+        const bool isListPage = std::string_view(formName) == form::kLists;
+        child.txtOut->setPlainText("result");
+        child.button->setFocus();
+        clipboard.text = "before";
+        Choose(window, "mnuEdit_Cut");
+        EXPECT_EQ(clipboard.text, isListPage ? "result" : "before");
+        EXPECT_EQ(child.txtOut->toPlainText(), isListPage ? "" : "result");
+    }
+}
+
+TEST_F(ClipboardCommandsTest, TheTableEditorDoesItsOwnPartAfterTheTextBox) {
+    RecordingWindow& child = Open(form::kEditTable);
+    Fill(*child.txtOut, "title");
+    Choose(window, "mnuEdit_Copy");
+    EXPECT_EQ(clipboard.text, "title");
+    child.button->setFocus();
+    Choose(window, "mnuEdit_Cut");
+    Choose(window, "mnuEdit_Paste");
+    EXPECT_EQ(clipboard.text, "title");
+    EXPECT_EQ(child.asked, (std::vector<std::string>{"copy", "cut", "paste"}));
+}
+
+TEST_F(ClipboardCommandsTest, RichTextTakesPlainTextOnly) {
+    RecordingWindow& child = Open(form::kAuthor);
+    auto* rich = new QTextEdit(&child);
+    rich->setHtml("a <b>bold</b> word");
+    rich->show();
+    rich->setFocus();
+    rich->selectAll();
+    clipboard.text = "<i>plain</i>";
+    Choose(window, "mnuEdit_Paste");
+    EXPECT_EQ(rich->toPlainText(), "<i>plain</i>");
+}
+
+TEST_F(ClipboardCommandsTest, WithoutAWindowNothingHappens) {
+    clipboard.text = "before";
+    for (const char* command : {"mnuEdit_Cut", "mnuEdit_Copy", "mnuEdit_Paste"}) {
+        Choose(window, command);
+    }
+    EXPECT_EQ(clipboard.text, "before");
+}
+
+}  // namespace
+}  // namespace quenloft

@@ -1,0 +1,26 @@
+// Runs tests of windows on the offscreen platform; a Qt warning fails the test that caused it.
+#include <QApplication>
+#include <cstdio>
+#include <gtest/gtest.h>
+
+namespace {
+
+void FailOnWarning(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message) {
+    // What a screen that is not there cannot do: raise a menu, grab the keyboard.
+    const bool isNoise = message.startsWith(QLatin1String("This plugin does not support"));
+    if ((type == QtWarningMsg || type == QtCriticalMsg) && !isNoise) {
+        ADD_FAILURE() << "Qt: " << message.toStdString();
+    } else if (type == QtFatalMsg) {
+        std::fprintf(stderr, "%s\n", qPrintable(message));
+    }
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+    testing::InitGoogleTest(&argc, argv);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    qInstallMessageHandler(FailOnWarning);
+    return RUN_ALL_TESTS();
+}
