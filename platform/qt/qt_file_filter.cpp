@@ -36,7 +36,7 @@ QStringList ToNameFilters(std::string_view filter) {
 }
 
 QString SuffixOf(const QString& nameFilter) {
-    const QString patterns = nameFilter.mid(nameFilter.lastIndexOf(u'(') + 1).chopped(1);
+    const QString patterns = nameFilter.section(u'(', -1).section(u')', 0, 0);
     const QString first = patterns.section(u' ', 0, 0);
     return first.startsWith(QLatin1String("*.")) ? first.mid(2) : QString();
 }

@@ -81,6 +81,12 @@ std::string QtPrinter::PrintText(const std::string& text) {
     const std::string target =
         FromQt(toFile ? printer_->outputFileName() : printer_->printerName());
     const std::string failure = "The text could not be printed on " + target;
+    if (toFile) {
+        QFile file(printer_->outputFileName());
+        if (!file.open(QIODevice::WriteOnly)) {
+            return failure + ": " + FromQt(file.errorString()) + ".";
+        }
+    }
     QTextDocument document;
     SetUpDocument(document, *printer_, text);
     QPainter painter;
