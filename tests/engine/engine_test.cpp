@@ -85,6 +85,7 @@ TEST_F(EngineRuns, AbortEndsEveryKindOfLoop) {
         EXPECT_EQ(isScript ? Run(c.file) : Roll(c.file), c.result);
         EXPECT_TRUE(engine.IsAborted());
     }
+    host.onYield = nullptr;
     engine.SetAbortFlag();
     EXPECT_EQ(Roll("x.tbl"), "Process Aborted!");
     EXPECT_EQ(Roll("repeat.tbl"), "Process Aborted!");
