@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # Sourced by ./run, ./test and .ci/run from the repository's root.
 
 # configure PRESET [CMAKE ARGUMENT...]: a build folder that came along from elsewhere (a clone that

@@ -1,3 +1,4 @@
+# shellcheck shell=bash disable=SC2034
 # The Debian packages that Quenloft needs, and the one way to install what is missing of them.
 # Sourced by ./run, ./test and .ci/run; does nothing by itself.
 
@@ -6,8 +7,8 @@ BUILD_PACKAGES=(g++ cmake ninja-build libgl-dev libpcg-cpp-dev qt6-base-dev)
 RUN_PACKAGES=(fonts-dejavu-core qt6-wayland)
 TEST_PACKAGES=(
     libbenchmark-dev libgmock-dev libgtest-dev
-    # The start-up test opens the program on a screen of its own, with a window manager.
-    fonts-dejavu-core imagemagick openbox procps x11-utils xauth xdotool xvfb
+    # The start-up test opens the program on a screen of its own.
+    fonts-dejavu-core openbox xdotool xvfb
 )
 CHECK_PACKAGES=(clang-format clang-tidy git)
 
