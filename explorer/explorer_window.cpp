@@ -46,6 +46,7 @@ frmExplorer::frmExplorer(Workspace& workspace)
           },
           this)) {
     ui_->setupUi(this);
+    ui_->splitter->setSizes({2000, 3000});  // In proportion.
     setFocusProxy(ui_->treExplorer);
     ui_->treExplorer->setModel(model_);
     treeMemory_ = std::make_unique<TreeMemory>(*ui_->treExplorer, *model_);
@@ -289,6 +290,7 @@ void frmExplorer::RunFile(const LibraryItem& file) {
     const ServiceSet& services = workspace_.Services();
     services.engine.ResetGeneration();
     EnterFolderOf(file.path);
+    ui_->txtOut->setPlaceholderText({});
     ui_->txtOut->SetText("");
     RunRounds(RoundsFromText(FromQt(ui_->txtTimes->text())),
               {.roll =

@@ -10,7 +10,7 @@ namespace quenloft {
 namespace {
 
 // So long a click may take before the rest of a folder is read between events.
-constexpr int kFirstSliceMs = 40;
+constexpr int kFirstSliceMs = 8;
 // Short enough that typing and drawing never wait.
 constexpr int kSliceMs = 5;
 // Beyond this the library is read only where the user opens it, or memory would fill.

@@ -7,6 +7,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPlainTextEdit>
+#include <QScreen>
 #include <QStatusBar>
 #include <QTextEdit>
 
@@ -53,6 +54,8 @@ frmMain::~frmMain() {
 void frmMain::StartUp() {
     const WaitCursor wait;
     ShowAtSavedGeometry(*this, services_.profile);
+    // The frame is on the screen before anything is read from disk.
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     EnterLibrary(services_.profile, services_.files);
     fontSettings_ = LoadFontSettings(services_.profile);
     Open(form::kExplorer);
@@ -222,8 +225,17 @@ ChildWindow* frmMain::ActiveChild() const {
 
 void frmMain::AddChild(ChildWindow& child) {
     QMdiSubWindow* frame = mdiArea_->addSubWindow(&child);
-    frame->resize(child.OpeningSize(mdiArea_->viewport()->size()));
+    frame->resize(child.OpeningSize(InsideSize()));
     child.Arrange();
+}
+
+QSize frmMain::InsideSize() const {
+    const QSize inside = mdiArea_->viewport()->size();
+    if (!isMaximized()) {
+        return inside;
+    }
+    // The window manager takes its time to enlarge a window that has just been maximised.
+    return inside.expandedTo(screen()->availableSize() - (size() - inside));
 }
 
 }  // namespace quenloft

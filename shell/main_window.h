@@ -72,6 +72,8 @@ class frmMain : public QMainWindow, public Workspace {
     ChildWindow* FindOpen(std::string_view formName) const;
     ChildWindow* ActiveChild() const;
     void AddChild(ChildWindow& child);
+    /// The room for child windows.
+    QSize InsideSize() const;
 
     const ServiceSet services_;
     const std::vector<WindowKind> windowKinds_;

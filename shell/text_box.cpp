@@ -2,6 +2,7 @@
 
 #include <QMimeData>
 #include <QTextBlock>
+#include <vector>
 
 #include "platform/qt/qt_text.h"
 
@@ -14,58 +15,51 @@ namespace {
 constexpr qsizetype kLongestBlock = 4096;
 constexpr int kGoesOn = 1;  // State of a block that goes on with the line of the block before it.
 
-qsizetype BreakBefore(const QString& line, qsizetype from) {
-    const qsizetype end = from + kLongestBlock;
-    const qsizetype blank = line.lastIndexOf(u' ', end - 1);
-    qsizetype at = blank > from ? blank + 1 : end;
-    if (line[at - 1].isHighSurrogate()) {
-        --at;
+// The end of the next piece of `text`: behind a line feed, or else behind the last blank.
+qsizetype PieceLength(QStringView text) {
+    const QStringView head = text.left(kLongestBlock);
+    const qsizetype feed = head.indexOf(u'\n');
+    if (feed >= 0) {
+        return feed + 1;
     }
-    return at;
+    const qsizetype blank = head.lastIndexOf(u' ');
+    if (blank >= 0) {
+        return blank + 1;
+    }
+    return head.back().isHighSurrogate() ? head.size() - 1 : head.size();
 }
 
-void InsertLine(QTextCursor& cursor, const QString& line) {
-    qsizetype from = 0;
-    while (line.size() - from > kLongestBlock) {
-        const qsizetype end = BreakBefore(line, from);
-        cursor.insertText(line.mid(from, end - from));
-        cursor.insertBlock();
-        cursor.block().setUserState(kGoesOn);
-        from = end;
-    }
-    cursor.insertText(line.mid(from));
-}
-
-bool HasLongLine(const QString& text) {
-    qsizetype from = 0;
-    while (text.size() - from > kLongestBlock) {
-        const qsizetype end = text.indexOf(u'\n', from);
-        if (end < 0 || end - from > kLongestBlock) {
-            return true;
+// Breaks the long lines of `text` by line feeds and returns the places behind these.
+std::vector<int> BreakLongLines(QString& text) {
+    std::vector<int> places;
+    QString broken;
+    QStringView rest(text);
+    while (rest.size() > kLongestBlock) {
+        const QStringView piece = rest.left(PieceLength(rest));
+        broken += piece;
+        if (!piece.endsWith(u'\n')) {
+            broken += u'\n';
+            places.push_back(static_cast<int>(broken.size()));
         }
-        from = end + 1;
+        rest = rest.mid(piece.size());
     }
-    return false;
+    if (!places.empty()) {
+        broken += rest;
+        text = broken;
+    }
+    return places;
 }
 
+// In one piece: each piece costs a time that grows with the document.
 void Insert(QTextCursor& cursor, QString text) {
     text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
     text.replace(u'\r', u'\n');
-    cursor.beginEditBlock();
-    if (!HasLongLine(text)) {
-        cursor.insertText(text);
-    } else {
-        bool first = true;
-        for (const QString& line : text.split(u'\n')) {
-            if (!first) {
-                cursor.insertBlock();
-                cursor.block().setUserState(-1);
-            }
-            InsertLine(cursor, line);
-            first = false;
-        }
+    const std::vector<int> breaks = BreakLongLines(text);
+    const int start = cursor.position();
+    cursor.insertText(text);
+    for (const int place : breaks) {
+        cursor.document()->findBlock(start + place).setUserState(kGoesOn);
     }
-    cursor.endEditBlock();
 }
 
 // Block by block: the document's own functions turn no-break spaces into blanks.
