@@ -1,9 +1,8 @@
 #include "engine/dice.h"
 
-#include <array>
-#include <cmath>
 #include <limits>
 
+#include "engine/entropy_mixing.h"
 #include "engine/failure.h"
 #include "engine/numbers.h"
 #include "engine/text_helpers.h"
@@ -21,14 +20,6 @@ std::int32_t To32Bits(std::int64_t total) {
         throw Failure(FailureNumber::Overflow);
     }
     return static_cast<std::int32_t>(total);
-}
-
-/// std::floor; a table roll takes it ten times and the library's is a call.
-double Floor(double number) {
-    constexpr double kWholeBelow = 9e18;  // What fits into 64 bits.
-    return number >= 0 && number < kWholeBelow
-               ? static_cast<double>(static_cast<std::int64_t>(number))
-               : std::floor(number);
 }
 
 struct DiceNotation {
@@ -67,30 +58,10 @@ Dice::Dice(RandomSource& random, EngineHost& host, std::function<bool()> goOn)
     : random_(random), host_(host), goOn_(std::move(goOn)) {}
 
 void Dice::IncreaseRandomness(double seed) {
-    const double tick = random_.TickCount();
-    const MemoryFigures memory = random_.Memory();
-    const std::array figures = {tick,
-                                memory.availablePageFile,
-                                memory.availablePhysical,
-                                memory.availableVirtual,
-                                memory.structureLength,
-                                memory.memoryLoad,
-                                memory.totalPageFile,
-                                memory.totalPhysical,
-                                memory.totalVirtual};
-    std::array<double, figures.size() + 1> values{};
-    random_.NextValues(values);
-    double sum = 0;
-    for (std::size_t i = 0; i < figures.size(); ++i) {
-        sum += Floor(values[i] * figures[i]) + 1;
-    }
-    const double number = Floor((sum + seed) * values.back() + 1);
-    if (!std::isfinite(number)) {
+    if (!MixEntropyInto(random_, seed)) {
         host_.ShowMessage("Failure in increasing randomness!" + std::string(kLineBreak) +
                           Failure(FailureNumber::Overflow).what());
-        return;
     }
-    random_.Reseed(number);
 }
 
 void Dice::Reseed(bool useEntropy, std::int32_t seed) {
@@ -110,7 +81,7 @@ std::int64_t Dice::RollAll(std::int32_t count, std::int32_t sides, bool openEnde
     for (std::int32_t i = 0; i < count; ++i) {
         double face = 0;
         do {
-            face = Floor(random_.Next() * sides) + 1;
+            face = FastFloor(random_.Next() * sides) + 1;
             total = To32Bits(total + static_cast<std::int64_t>(face));
             if (--untilTurn == 0) {
                 untilTurn = kDicePerTurn;

@@ -4,6 +4,7 @@
 
 #include "engine/failure.h"
 #include "engine/interpreter.h"
+#include "engine/reference_targets.h"
 #include "engine/table_file.h"
 #include "engine/text_helpers.h"
 
@@ -36,12 +37,14 @@ std::string Engine::Run(std::string_view path, Work work) {
         return {};
     }
     running_ = true;
+    const FolderId folder = files_.CurrentFolder();
     interpreter_->BeginRun(host_.StackBytesLeft());
     std::string result;
     try {
         // A native path names its file from the root on; the language knows drives only.
-        result = path.starts_with('/') ? work(files_.AbsolutePath(path)) : work(path);
+        result = path.starts_with('/') ? work(PathAsSpelled(files_, path)) : work(path);
     } catch (const RunStopped& stopped) {
+        files_.SetCurrentFolder(folder);
         result = StoppedText(stopped.what());
     } catch (const std::bad_alloc&) {
         result = StoppedText("the machine's memory is used up");

@@ -60,13 +60,6 @@ void ReplaceLineBreakMarks(std::string& text) {
     text = result.append(text, done);
 }
 
-/// The text of one level after an abort: the word stands in it once.
-void AppendAborted(std::string& text) {
-    if (text.find(kAbortedText) == std::string::npos) {
-        text.append(kAbortedText);
-    }
-}
-
 }  // namespace
 
 std::string Interpreter::ExpandEntry(std::string_view text) {
@@ -85,6 +78,7 @@ std::string Interpreter::ExpandEntry(std::string_view text) {
     });
     SubstituteVariables(expanded);
     ReplaceLineBreakMarks(expanded);
+    RollCounts::Referrer referrer(text);
     ReplaceMarks(expanded, kReferenceMark, kReferenceMarkName, [&](std::string_view reference) {
         Reference parsed;
         if (const std::size_t forced = reference.find('='); forced != std::string_view::npos) {
@@ -98,7 +92,7 @@ std::string Interpreter::ExpandEntry(std::string_view text) {
             reference = reference.substr(0, repeat);
         }
         parsed.file = reference;
-        return ExpandReference(parsed, text, /*tablesOnly=*/false);
+        return ExpandReference(parsed, referrer, /*tablesOnly=*/false);
     });
     return expanded;
 }
@@ -111,6 +105,7 @@ void Interpreter::SubstituteVariables(std::string& text) {
 
 std::string Interpreter::ExpandTableReferences(std::string_view text) {
     std::string expanded(text);
+    RollCounts::Referrer referrer(text);
     ReplaceMarks(expanded, kReferenceMark, kReferenceMarkName, [&](std::string_view reference) {
         Reference parsed;
         if (const std::size_t repeat = reference.find('^'); repeat != std::string_view::npos) {
@@ -118,7 +113,7 @@ std::string Interpreter::ExpandTableReferences(std::string_view text) {
             reference = reference.substr(0, repeat);
         }
         parsed.file = reference;
-        return ExpandReference(parsed, text, /*tablesOnly=*/true);
+        return ExpandReference(parsed, referrer, /*tablesOnly=*/true);
     });
     return expanded;
 }
@@ -137,7 +132,7 @@ void Interpreter::ReplaceMarks(std::string& text, std::string_view mark,
     for (; begin != std::string_view::npos; begin = pending.View().find(mark)) {
         done.append(pending.View().substr(0, begin));
         if (!TakeTurn()) {
-            AppendAborted(done);
+            AppendAbortedOnce(done);
             text = std::move(done);
             return;
         }
@@ -154,22 +149,14 @@ void Interpreter::ReplaceMarks(std::string& text, std::string_view mark,
     text = std::move(done.append(pending.View()));
 }
 
-std::string Interpreter::ExpandReference(const Reference& reference, std::string_view referringText,
+std::string Interpreter::ExpandReference(const Reference& reference, RollCounts::Referrer& referrer,
                                          bool tablesOnly) {
     const std::shared_ptr<const ReferenceTarget> target = targets_.Find(reference.file);
-    const auto roll = [&] {
-        return tablesOnly ? RollTarget(*target, 0)
-                          : GetReferenceData(*target, reference.forcedRoll);
-    };
     std::string result;
-    for (std::int32_t i = 0; i < reference.count; ++i) {
-        if (i > 0 && !TakeTurn()) {
-            break;
-        }
-        std::string item = roll();
-        while (!AcceptRoll(referringText, item) && TakeTurn()) {
-            item = roll();
-        }
+    for (std::int32_t i = 0; i < reference.count && !abortFlag_; ++i) {
+        std::string item = i > 0 && !TakeTurn()
+                               ? std::string(kAbortedText)
+                               : RollAccepted(*target, reference.forcedRoll, referrer, tablesOnly);
         if (i == 0) {
             result = std::move(item);
         } else {
@@ -180,9 +167,23 @@ std::string Interpreter::ExpandReference(const Reference& reference, std::string
     return result;
 }
 
-bool Interpreter::AcceptRoll(std::string_view referringText, std::string_view result) {
+std::string Interpreter::RollAccepted(const ReferenceTarget& target, std::int32_t forcedRoll,
+                                      RollCounts::Referrer& referrer, bool tablesOnly) {
+    for (;;) {
+        std::string item =
+            tablesOnly ? RollTarget(target, 0) : GetReferenceData(target, forcedRoll);
+        if (AcceptRoll(referrer, item)) {
+            return item;
+        }
+        if (!TakeTurn()) {
+            return std::string(kAbortedText);
+        }
+    }
+}
+
+bool Interpreter::AcceptRoll(RollCounts::Referrer& referrer, std::string_view result) {
     constexpr std::int32_t kUsualLimit = 2;
-    std::int64_t* count = rollCounts_.FindOrStart(referringText, result);
+    std::int64_t* count = rollCounts_.FindOrStart(referrer, result);
     if (count == nullptr) {
         return true;
     }

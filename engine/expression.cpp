@@ -77,7 +77,8 @@ double Power(double a, double b) {
 double WholeQuotient(double a, double b) {
     constexpr double kExact = 9.2e18;
     if (std::fabs(a) < kExact && std::fabs(b) < kExact) {
-        return static_cast<double>(static_cast<std::int64_t>(a) / static_cast<std::int64_t>(b));
+        const std::int64_t quotient = static_cast<std::int64_t>(a) / static_cast<std::int64_t>(b);
+        return static_cast<double>(quotient);
     }
     return std::trunc(a / b);
 }

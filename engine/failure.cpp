@@ -10,6 +10,10 @@ const char* RuntimeWords(FailureNumber number) {
             return "Invalid procedure call or argument";
         case FailureNumber::Overflow:
             return "Overflow";
+        case FailureNumber::OutOfMemory:
+            return "Out of memory";
+        case FailureNumber::SubscriptOutOfRange:
+            return "Subscript out of range";
         case FailureNumber::DivisionByZero:
             return "Division by zero";
         case FailureNumber::TypeMismatch:

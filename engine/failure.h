@@ -11,6 +11,8 @@ namespace quenloft {
 enum class FailureNumber {
     InvalidArgument = 5,
     Overflow = 6,
+    OutOfMemory = 7,
+    SubscriptOutOfRange = 9,
     DivisionByZero = 11,
     TypeMismatch = 13,
     FileNotFound = 53,

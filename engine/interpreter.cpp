@@ -6,6 +6,7 @@
 #include "engine/failure.h"
 #include "engine/limits.h"
 #include "engine/text_helpers.h"
+#include "platform/letter_case.h"
 
 namespace quenloft {
 
@@ -68,6 +69,12 @@ Interpreter::ChainLink::ChainLink(Interpreter& interpreter, std::string_view pat
         const RunStopped stopped(ChainText(chain_));
         chain_.pop_back();
         throw stopped;
+    }
+}
+
+void AppendAbortedOnce(std::string& text) {
+    if (FoldCase(text).find(FoldCase(kAbortedText)) == std::string::npos) {
+        text.append(kAbortedText);
     }
 }
 

@@ -31,6 +31,10 @@ namespace quenloft {
 /// What an aborted run shows in place of its result.
 inline constexpr std::string_view kAbortedText = "Process Aborted!";
 
+/// Adds kAbortedText to the text of one level, unless it stands in it already, in whatever case the
+/// name of a file has given it.
+void AppendAbortedOnce(std::string& text);
+
 /// "Failure to get data from " and the path: a reference that could not even be reported on.
 std::string FailedReferenceText(std::string_view path);
 
@@ -92,10 +96,12 @@ class Interpreter {
     template <typename Replace>
     void ReplaceMarks(std::string& text, std::string_view mark, std::string_view nameOfMark,
                       Replace replace);
-    std::string ExpandReference(const Reference& reference, std::string_view referringText,
+    std::string ExpandReference(const Reference& reference, RollCounts::Referrer& referrer,
                                 bool tablesOnly);
+    std::string RollAccepted(const ReferenceTarget& target, std::int32_t forcedRoll,
+                             RollCounts::Referrer& referrer, bool tablesOnly);
     std::string ExpandTableReferences(std::string_view text);
-    bool AcceptRoll(std::string_view referringText, std::string_view result);
+    bool AcceptRoll(RollCounts::Referrer& referrer, std::string_view result);
 
     // variable_statement.cpp
     Value ReadVariable(std::string_view text);

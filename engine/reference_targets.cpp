@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "platform/letter_case.h"
+
 namespace quenloft {
 
 namespace {
@@ -22,6 +24,15 @@ ReferenceTarget::ReferenceTarget(std::string spelledPath)
 std::string FromCurrentDirectory(const FileSystem& files, std::string_view path) {
     return path.starts_with('\\') ? files.CurrentDirectory() + std::string(path)
                                   : std::string(path);
+}
+
+std::string PathAsSpelled(FileSystem& files, std::string_view path) {
+    const std::string onDisk = files.AbsolutePath(path);
+    const std::string_view name = path.substr(path.find_last_of("/\\") + 1);
+    if (FoldCase(name) != FoldCase(FileName(onDisk))) {
+        return onDisk;
+    }
+    return std::string(DirectoryPart(onDisk)).append("\\").append(name);
 }
 
 std::string ResolveFileKind(FileSystem& files, std::string name) {

@@ -28,14 +28,19 @@ struct ReferenceTarget {
     bool hasDrive;
     bool isScript;
     LetterCase letterCase;
-    /// The table as it stood in this look (FileSystem::Look); null where it is still to be opened.
-    std::shared_ptr<const TextFile> text = nullptr;
+    /// The table as it stood in this look (FileSystem::Look); nothing where it is still to be
+    /// opened. How long unused text is kept is the file system's affair.
+    std::weak_ptr<const TextFile> text = {};
     std::uint64_t look = 0;
 };
 
 /// A path that begins with "\" is relative to the current directory; any other is returned as it
 /// is.
 std::string FromCurrentDirectory(const FileSystem& files, std::string_view path);
+
+/// The library path of a file that a user named, in any form: the folder as on disk, the name as
+/// the user spelled it, since the spelling chooses the case of the result.
+std::string PathAsSpelled(FileSystem& files, std::string_view path);
 
 /// Decides the extension of a referenced file: the name itself where it ends in ".tbl" or ".spt",
 /// otherwise with ".tbl" where such a file exists, otherwise with ".spt" where such a file exists,

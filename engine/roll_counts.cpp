@@ -1,58 +1,92 @@
 #include "engine/roll_counts.h"
 
-#include <functional>
 #include <utility>
 
 namespace quenloft {
 
-std::int64_t* RollCounts::FindOrStart(std::string_view referringText, std::string_view result) {
-    const std::size_t keyBegin = keys_.size();
-    keys_.append(referringText).append(result);
-    const std::string_view key = std::string_view(keys_).substr(keyBegin);
-    const std::size_t hash = std::hash<std::string_view>{}(key);
-    Slot& slot = SlotFor(key, hash);
-    if (slot.generation == generation_) {
-        keys_.resize(keyBegin);
-        return &slot.count;
+namespace {
+
+// FNV-1a (Fowler, Noll, Vo): goes on from any hash, so that a text and its two parts hash alike.
+constexpr std::uint64_t kFnvBasis = 0xCBF29CE484222325U;
+constexpr std::uint64_t kFnvPrime = 0x100000001B3U;
+
+std::uint64_t HashOn(std::uint64_t hash, std::string_view text) {
+    for (const unsigned char c : text) {
+        hash = (hash ^ c) * kFnvPrime;
     }
-    slot = Slot{generation_, hash, keyBegin, key.size(), 1};
+    return hash;
+}
+
+}  // namespace
+
+std::int64_t* RollCounts::FindOrStart(Referrer& referrer, std::string_view result) {
+    if (!referrer.isHashed_) {
+        referrer.isHashed_ = true;
+        referrer.hash_ = HashOn(kFnvBasis, referrer.text_);
+    }
+    const std::uint64_t hash = HashOn(referrer.hash_, result);
+    const std::size_t mask = slots_.size() - 1;
+    std::size_t i = hash & mask;
+    for (; slots_[i].generation == generation_; i = (i + 1) & mask) {
+        if (slots_[i].hash == hash && Holds(slots_[i], referrer, result)) {
+            return &slots_[i].count;
+        }
+    }
+    if (referrer.storedAt_ == std::string::npos) {
+        referrer.storedAt_ = texts_.size();
+        texts_ += referrer.text_;
+    }
+    slots_[i] = Slot{generation_,   hash, referrer.storedAt_, referrer.text_.size(), texts_.size(),
+                     result.size(), 1};
+    texts_ += result;
     if (++used_ > slots_.size() / 2) {
         Grow();
     }
     return nullptr;
 }
 
-/// The slot that holds `key`, or the free one where it belongs.
-RollCounts::Slot& RollCounts::SlotFor(std::string_view key, std::size_t hash) {
-    const std::size_t mask = slots_.size() - 1;
-    std::size_t i = hash & mask;
-    while (slots_[i].generation == generation_ &&
-           !(slots_[i].hash == hash &&
-             std::string_view(keys_).substr(slots_[i].keyBegin, slots_[i].keySize) == key)) {
-        i = (i + 1) & mask;
+/// The key is one text: where it is split does not matter.
+bool RollCounts::Holds(const Slot& slot, Referrer& referrer, std::string_view result) const {
+    const std::string_view storedReferrer = Stored(slot.referrerAt, slot.referrerSize);
+    const std::string_view storedResult = Stored(slot.resultAt, slot.resultSize);
+    if (slot.referrerSize != referrer.text_.size()) {
+        return std::string(storedReferrer).append(storedResult) ==
+               std::string(referrer.text_).append(result);
     }
-    return slots_[i];
+    if (storedResult != result) {
+        return false;
+    }
+    if (referrer.storedAt_ == std::string::npos && storedReferrer == referrer.text_) {
+        referrer.storedAt_ = slot.referrerAt;
+    }
+    return referrer.storedAt_ == slot.referrerAt || storedReferrer == referrer.text_;
 }
 
 void RollCounts::Grow() {
     const std::vector<Slot> old = std::exchange(slots_, std::vector<Slot>(slots_.size() * 2));
+    const std::size_t mask = slots_.size() - 1;
     for (const Slot& slot : old) {
-        if (slot.generation == generation_) {
-            SlotFor(std::string_view(keys_).substr(slot.keyBegin, slot.keySize), slot.hash) = slot;
+        if (slot.generation != generation_) {
+            continue;
         }
+        std::size_t i = slot.hash & mask;
+        while (slots_[i].generation == generation_) {
+            i = (i + 1) & mask;
+        }
+        slots_[i] = slot;
     }
 }
 
 void RollCounts::Clear() {
-    constexpr std::size_t kMostSlotsKept =
-        1 << 16;  // A run of millions of keys gives its memory back.
+    // A run of millions of keys gives its memory back.
+    constexpr std::size_t kMostSlotsKept = 1 << 16;
     if (slots_.size() > kMostSlotsKept) {
         *this = RollCounts();
         return;
     }
     ++generation_;
     used_ = 0;
-    keys_.clear();
+    texts_.clear();
 }
 
 }  // namespace quenloft

@@ -30,7 +30,6 @@ class ScriptRun {
     template <typename Part, typename Combine>
     bool SplitCondition(std::string_view text, std::string_view word, Part part, Combine combine);
     void Append(std::string_view text);
-    void AppendAborted();
 
     Interpreter& interpreter_;
     FileHandle* handle_ = nullptr;
@@ -45,7 +44,7 @@ void ScriptRun::Run(FileHandle& handle) {
     handle.Rewind();
     while (!handle.AtEnd() && !ended_) {
         if (!interpreter_.TakeTurn()) {
-            AppendAborted();
+            AppendAbortedOnce(output);
             break;
         }
         ReadLine();
@@ -162,12 +161,6 @@ bool ScriptRun::SplitCondition(std::string_view text, std::string_view word, Par
 void ScriptRun::Append(std::string_view text) {
     output.append(text);
     CheckOutputSize(output.size());
-}
-
-void ScriptRun::AppendAborted() {
-    if (output.find(kAbortedText) == std::string::npos) {
-        output.append(kAbortedText);
-    }
 }
 
 std::string Interpreter::RunScript(std::string_view path, bool fromRunner) {

@@ -67,8 +67,15 @@ std::string Interpreter::RollTarget(const ReferenceTarget& target, std::int32_t 
 
 std::string Interpreter::RollOpenTable(const ReferenceTarget& target, std::int32_t forcedRoll,
                                        RollReport& report) {
-    report.file = target.text && target.look == files_.Look() ? target.text
-                                                              : files_.OpenText(target.fileName);
+    if (target.path.empty()) {
+        throw Failure(FailureNumber::FileNotFound, "File not found: the reference is empty");
+    }
+    if (target.look == files_.Look()) {
+        report.file = target.text.lock();
+    }
+    if (!report.file) {
+        report.file = files_.OpenText(target.fileName);
+    }
     {
         OpenedFile opened(openFiles_, target.path, *report.file);
         ReadHeader(opened.Handle(), report.header);

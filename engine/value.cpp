@@ -101,14 +101,14 @@ bool Value::AsTruth() const {
     return TextToNumber(text_) != 0;
 }
 
-Value Join(Value left, const Value& right) {
+Value Join(Value&& left, const Value& right) {
     std::string text = std::move(left).TextForm();
     text += right.TextForm();
     CheckOutputSize(text.size());
     return Value::OfText(std::move(text));
 }
 
-Value Add(Value left, const Value& right) {
+Value Add(Value&& left, const Value& right) {
     if (left.IsText() && right.IsText()) {
         return Join(std::move(left), right);
     }

@@ -37,9 +37,10 @@ class Value {
 };
 
 /// The sum; two texts are joined. Throws Failure ("Type mismatch", "Overflow").
-Value Add(Value left, const Value& right);
+/// `left` is used up only where two texts are joined: after a failure it is as it was.
+Value Add(Value&& left, const Value& right);
 /// The text forms of both, one behind the other. Throws RunStopped past kLargestOutput.
-Value Join(Value left, const Value& right);
+Value Join(Value&& left, const Value& right);
 /// Below 0, 0 or above 0: numbers by size, texts by code, a number less than any text. An empty
 /// value compares as 0 with numbers and as "" with text.
 int Compare(const Value& left, const Value& right);

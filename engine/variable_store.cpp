@@ -19,7 +19,11 @@ void VariableStore::SetVariable(std::string_view name, const Value& value, Opera
         return;
     }
     Value& stored = inOrder_[place->second].second;
-    stored = operation == Operation::Increase ? Add(std::move(stored), value) : value;
+    if (operation == Operation::Increase) {
+        stored = Add(std::move(stored), value);
+    } else {
+        stored = value;
+    }
 }
 
 std::string VariableStore::ListGroup(std::string_view group) const {

@@ -8,6 +8,7 @@
 #include <unistd.h>
 
 #include "engine/engine.h"
+#include "engine/reference_targets.h"
 #include "engine/text_helpers.h"
 #include "platform/linux/linux_file_system.h"
 #include "platform/linux/stack_left.h"
@@ -123,7 +124,7 @@ int main(int argc, char** argv) {
     Engine engine(files, random, host);
     host.AbortThrough(engine);
 
-    const std::string path = files.AbsolutePath(arguments->file);
+    const std::string path = PathAsSpelled(files, arguments->file);
     try {
         files.ReadLines(path);
         files.ChangeDirectory(std::string(DirectoryPart(path)) + "\\");
@@ -133,6 +134,7 @@ int main(int argc, char** argv) {
     }
     engine.ResetGeneration();
     for (int i = 0; i < arguments->times && !engine.IsAborted(); ++i) {
+        files.LookAgain();
         const std::string result = IsScriptPath(path) ? engine.RunScript(path, /*fromRunner=*/true)
                                                       : engine.RollTable(path);
         std::cout << (i > 0 ? "\n" : "") << WithLineFeeds(result) << '\n';

@@ -65,8 +65,9 @@ void ChangeWatch::Watch(const std::string& folderDiskPath) {
         // A folder that is not there yet may be watched when it is.
         isBlind_ = errno != ENOENT && errno != ENOTDIR;
         watched_.erase(folderDiskPath);
+        return;
     }
-    isBlind_ = isBlind_ || watched_.size() > kMostFolders || IsShared(folderDiskPath);
+    isBlind_ = watched_.size() > kMostFolders || IsShared(folderDiskPath);
     trustedUntil_ = 0;  // What happened between the look at the file and this call is not known.
 }
 

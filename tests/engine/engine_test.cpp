@@ -62,14 +62,19 @@ TEST_F(EngineRuns, AbortEndsEveryKindOfLoop) {
     folder.Write("silent.spt", "LABEL:a\nGOTO:a\n");
     folder.Write("statements.spt", "LABEL:a\n??n=INC1??\nGOTO:a\n");
     folder.Write("nested.spt", "before\n#silent.spt# and\nnever\n");
+    WriteTable("nothing.tbl", "");
+    WriteTable("empty.tbl", "#nothing^_1000000000#");
+    WriteTable("loud.tbl", "#EMPTY# and #EMPTY#");
     const struct {
         const char* file;
         const char* result;
     } cases[] = {
-        {"never.tbl", "x\r\nx after"},
+        {"never.tbl", "x\r\nProcess Aborted! after"},
         {"dice.tbl", "Process Aborted! gold "},
         {"silent.spt", "Process Aborted!"},
         {"statements.spt", "Process Aborted!"},
+        {"empty.tbl", "Process Aborted!"},
+        {"loud.tbl", "PROCESS ABORTED! and "},
         {"nested.spt", "before\r\nProcess Aborted! and"},
     };
     for (const auto& c : cases) {
@@ -168,7 +173,7 @@ TEST_F(EngineRuns, BrokenFilesGiveTextNotCrashes) {
         EXPECT_NE(Roll(c.name).find(c.expected), std::string::npos) << c.name;
     }
     std::string binary;
-    for (int i = 0; i < 100000; ++i) {
+    for (unsigned i = 0; i < 100000; ++i) {
         binary.push_back(static_cast<char>(i * i * 31 >> 3));
     }
     folder.Write("binary.tbl", binary);

@@ -38,6 +38,7 @@ class QuenloftRoll : public testing::Test {
                       "T\xA4"
                       "1\r\n\r\n1\xA7"
                       "caf\xE9|#sub\\u#\r\n");
+        folder_.Write("lib/ut.tbl", folder_.Read("lib/t.tbl"));
         folder_.Write("lib/sub/u.tbl",
                       "U\xA4"
                       "1\n1\xA7under\n");
@@ -56,9 +57,9 @@ TEST_F(QuenloftRoll, PrintsResultsWithAnEmptyLineBetween) {
     EXPECT_EQ(RollIn(folder_, "lib/t.tbl").output, "café\nunder\n");
     EXPECT_EQ(RollIn(folder_, "-n 2 lib/t.tbl").output, "café\nunder\n\ncafé\nunder\n");
     EXPECT_EQ(RollIn(folder_, "-n 2 -- ../" + folder_.Path().substr(folder_.Path().rfind('/') + 1) +
-                                  "/LIB/T.TBL")
+                                  "/LIB/UT.TBL")
                   .output,
-              "café\nunder\n\ncafé\nunder\n");
+              "CAFÉ\nUNDER\n\nCAFÉ\nUNDER\n");
     EXPECT_EQ(RollIn(folder_, "lib/end.spt").output, "x\n\n");
 }
 
