@@ -1,0 +1,83 @@
+#include "dice/dice_round.h"
+
+#include <gtest/gtest.h>
+
+#include "engine/dice.h"
+#include "engine/failure.h"
+#include "tests/support/fake_host.h"
+#include "tests/support/fake_random.h"
+
+namespace quenloft {
+namespace {
+
+class DiceRound : public testing::Test {
+  protected:
+    /// The lines, and in front of them what a failed roll said.
+    std::vector<std::string> Roll(const DiceRequest& request) {
+        ReportLines lines;
+        std::string failure;
+        try {
+            RollTimes(dice, request, lines, result);
+        } catch (const Failure& error) {
+            failure = error.what();
+        }
+        std::vector<std::string> all = lines.Take();
+        if (!failure.empty()) {
+            all.insert(all.begin(), failure);
+        }
+        return all;
+    }
+
+    ConstantRandom random;  // Each die shows a 1.
+    FakeHost host;
+    Dice dice{random, host, [] { return true; }};
+    std::string result = "0";
+};
+
+TEST_F(DiceRound, WritesLinesWithTheTextsAsTyped) {
+    const struct {
+        DiceRequest request;
+        std::vector<std::string> lines;
+    } cases[] = {
+        {{"3", "6", "2", "1", true}, {"3D6+2~ = 5"}},
+        {{"1", "20", "0", "1", false}, {"1D20  = 1"}},
+        {{"03", "6", "0", "1", false}, {"03D6  = 3"}},
+        {{"1", "6", "-2", "1", false}, {"1D6-2  = -1"}},
+        {{"1", "6", "+3", "1", false}, {"1D6++3  = 4"}},
+        {{"1", "6", "0.4", "1", false}, {"1D6+0.4  = 1"}},
+        {{"1", "6", "-0", "1", false}, {"1D6  = 1"}},
+        {{"1", "1", "-1", "1", false}, {"1D1-1  = 1"}},
+        {{"abc", "6", "5", "1", false}, {"abcD6+5  = 0"}},
+        {{"1", "0", "5", "1", false}, {"1D0+5  = 0"}},
+        {{"-3", "6", "5", "1", false}, {"-3D6+5  = 5"}},
+        {{" 2", "1e1", "0", "1", false}, {" 2D1e1  = 2"}},
+        {{"1,000", "6", "0", "1", false}, {"1,000D6  = 1"}},
+        {{"\xD9\xA3", "6", "0", "1", false},
+         {"\xD9\xA3"
+          "D6  = 0"}},
+        {{"1", "6", "0", "2.5", false}, {"1D6  = 1", "1D6  = 1"}},
+        {{"1", "6", "0", "3.5", false}, {"1D6  = 1", "1D6  = 1", "1D6  = 1", "1D6  = 1"}},
+        {{"1", "6", "0", "0", false}, {}},
+        {{"1", "6", "0", "-4", false}, {}},
+        {{"1", "6", "0", "", false}, {}},
+        {{"1", "1", "0", "1", true}, {"Overflow"}},
+        {{"1", "6", "0", "2147483648", false}, {"Overflow"}},
+        {{"1", "6", "9999999999999999999999999999999999999999", "1", false}, {"Overflow"}},
+        {{"1", "6", "9999999999", "0", false}, {}},
+        {{"1", "6", "2147483647", "3", false}, {"Overflow"}},
+    };
+    for (const auto& [request, lines] : cases) {
+        EXPECT_EQ(Roll(request), lines) << request.count << " D " << request.faces << " + "
+                                        << request.add << " times " << request.times;
+    }
+}
+
+TEST_F(DiceRound, KeepsTheLastResultWhereNothingIsRolled) {
+    Roll({"2", "6", "10", "1", false});
+    EXPECT_EQ(result, "12");
+    Roll({"2", "6", "0", "0", false});
+    EXPECT_EQ(result, "12");
+}
+
+}  // namespace
+}  // namespace quenloft
