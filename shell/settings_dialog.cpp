@@ -32,7 +32,7 @@ frmSettings::frmSettings(const ServiceSet& services, FontSettings& fonts, QWidge
     layout()->setSizeConstraint(QLayout::SetFixedSize);
     connect(ui_->btnBrowseLib, &QPushButton::clicked, this, &frmSettings::BrowseLibrary);
     connect(ui_->btnFont, &QPushButton::clicked, this, &frmSettings::ChooseFont);
-    connect(ui_->btnOk, &QPushButton::clicked, this, &frmSettings::Accept);
+    connect(ui_->btnOk, &QPushButton::clicked, this, &frmSettings::SaveAndClose);
     connect(ui_->btnCancel, &QPushButton::clicked, this, &frmSettings::reject);
     ShowSettings();
 }
@@ -65,7 +65,7 @@ void frmSettings::ChooseFont() {
     }
 }
 
-void frmSettings::Accept() {
+void frmSettings::SaveAndClose() {
     if (!WriteProfile()) {
         services_.dialogs.ShowMessage(
             "The settings could not be saved in " +

@@ -25,7 +25,7 @@ class frmSettings : public QDialog {
   private:
     void BrowseLibrary();
     void ChooseFont();
-    void Accept();
+    void SaveAndClose();
 
     void ShowSettings();
     bool WriteProfile();
