@@ -36,9 +36,10 @@ class Dialogs {
     virtual std::optional<std::string> ChooseFileToOpen(const std::string& filter,
                                                         const std::string& folder) = 0;
     /// As above; asks before an existing file is chosen. A name typed without an extension gets the
-    /// one of the chosen pattern.
+    /// one of the chosen pattern. `filterIndex` counts the pairs from 1: the one chosen at first.
     virtual std::optional<std::string> ChooseFileToSave(const std::string& filter,
-                                                        const std::string& path) = 0;
+                                                        const std::string& path,
+                                                        int filterIndex = 1) = 0;
     virtual std::optional<std::string> ChooseFolder(const std::string& title,
                                                     const std::string& folder) = 0;
     virtual std::optional<FontChoice> ChooseFont(const FontChoice& initial) = 0;

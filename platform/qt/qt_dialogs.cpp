@@ -115,14 +115,16 @@ std::optional<std::string> QtDialogs::ChooseFileToOpen(const std::string& filter
 }
 
 std::optional<std::string> QtDialogs::ChooseFileToSave(const std::string& filter,
-                                                       const std::string& path) {
+                                                       const std::string& path, int filterIndex) {
     const QFileInfo begin(PathToQt(path));
     const bool isFolder = begin.isDir();
     QFileDialog dialog(DialogParent(), QStringLiteral("Save As"),
                        isFolder ? begin.filePath() : begin.path());
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
-    dialog.setNameFilters(ToNameFilters(filter));
+    const QStringList filters = ToNameFilters(filter);
+    dialog.setNameFilters(filters);
+    dialog.selectNameFilter(filters.value(filterIndex - 1));
     if (!isFolder) {
         dialog.selectFile(begin.fileName());
     }

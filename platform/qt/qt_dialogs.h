@@ -16,8 +16,8 @@ class QtDialogs : public Dialogs {
                                        const std::string& defaultText) override;
     std::optional<std::string> ChooseFileToOpen(const std::string& filter,
                                                 const std::string& folder) override;
-    std::optional<std::string> ChooseFileToSave(const std::string& filter,
-                                                const std::string& path) override;
+    std::optional<std::string> ChooseFileToSave(const std::string& filter, const std::string& path,
+                                                int filterIndex) override;
     std::optional<std::string> ChooseFolder(const std::string& title,
                                             const std::string& folder) override;
     std::optional<FontChoice> ChooseFont(const FontChoice& initial) override;

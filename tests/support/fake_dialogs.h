@@ -46,9 +46,11 @@ class FakeDialogs : public Dialogs {
                                                 const std::string& folder) override {
         return Next<std::string>("open: " + filter + " in " + folder);
     }
-    std::optional<std::string> ChooseFileToSave(const std::string& filter,
-                                                const std::string& path) override {
-        return Next<std::string>("save: " + filter + " at " + path);
+    std::optional<std::string> ChooseFileToSave(const std::string& filter, const std::string& path,
+                                                int filterIndex) override {
+        return Next<std::string>("save: " + filter +
+                                 (filterIndex == 1 ? "" : " from " + std::to_string(filterIndex)) +
+                                 " at " + path);
     }
     std::optional<std::string> ChooseFolder(const std::string& title,
                                             const std::string& folder) override {

@@ -1,0 +1,74 @@
+#include "dice/dice_window.h"
+
+#include <QShortcut>
+
+#include "dice/dice_round.h"
+#include "engine/failure.h"
+#include "platform/dialogs.h"
+#include "platform/qt/qt_text.h"
+#include "shell/font_settings.h"
+#include "shell/form_names.h"
+#include "shell/wait_cursor.h"
+#include "shell/workspace.h"
+#include "ui_dice_window.h"
+
+namespace quenloft {
+namespace {
+
+constexpr TwipsPoint kPlace{4095, 1830};
+
+std::string TextOf(const QLineEdit* box) { return FromQt(box->text()); }
+
+}  // namespace
+
+frmDice::frmDice(Workspace& workspace, RandomSource& random)
+    : ChildWindow(workspace, form::kDice, tr("Dice"), kPlace),
+      ui_(std::make_unique<Ui::frmDice>()),
+      dice_(random, workspace.Services().host, [] { return true; }) {
+    ui_->setupUi(this);
+    ui_->lstResults->PutNewestFirst();
+    setFocusProxy(ui_->txtNrDice);
+    workspace_.ApplyFontSettings(*ui_->lstResults, kOutputFont);
+    connect(ui_->btnRoll, &QPushButton::clicked, this, &frmDice::Roll);
+    connect(ui_->btnClear, &QPushButton::clicked, this, &frmDice::Clear);
+    new QShortcut(Qt::Key_F5, this, this, &frmDice::Roll, Qt::WidgetWithChildrenShortcut);
+    for (const NumberBox* box : findChildren<NumberBox*>()) {
+        connect(box, &QLineEdit::returnPressed, this, &frmDice::Roll);
+    }
+}
+
+frmDice::~frmDice() = default;
+
+QSize frmDice::OpeningSize(QSize area) const {
+    constexpr QSize kComfortable(420, 360);
+    return kComfortable.expandedTo(sizeHint()).boundedTo(area);
+}
+
+std::string frmDice::Export() { return ui_->lstResults->Text(); }
+
+void frmDice::Roll() {
+    if (workspace_.IsRunning()) {
+        return;
+    }
+    ReportLines lines;
+    std::string result = TextOf(ui_->txtResult);
+    std::string failure;
+    try {
+        const WaitCursor wait;
+        RollTimes(dice_,
+                  {TextOf(ui_->txtNrDice), TextOf(ui_->txtDiceType), TextOf(ui_->txtAdd),
+                   TextOf(ui_->txtRolls), ui_->chkOpenEnded->isChecked()},
+                  lines, result);
+    } catch (const Failure& error) {
+        failure = error.what();
+    }
+    ui_->txtResult->setText(ToQt(result));
+    ui_->lstResults->Add(lines.Take());
+    if (!failure.empty()) {
+        workspace_.Services().dialogs.ShowMessage(failure, MessageIcon::Warning);
+    }
+}
+
+void frmDice::Clear() { ui_->lstResults->Clear(); }
+
+}  // namespace quenloft

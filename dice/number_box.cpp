@@ -1,0 +1,26 @@
+#include "dice/number_box.h"
+
+namespace quenloft {
+namespace {
+
+QSize RoomFor(const QLineEdit& box, QSize usual, const QString& digits) {
+    // The height of a line is room enough for frame and margins in any style.
+    const QFontMetrics font = box.fontMetrics();
+    return {font.horizontalAdvance(digits) + font.height(), usual.height()};
+}
+
+}  // namespace
+
+NumberBox::NumberBox(QWidget* parent) : QLineEdit(parent) {
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+}
+
+QSize NumberBox::sizeHint() const {
+    return RoomFor(*this, QLineEdit::sizeHint(), QStringLiteral("00000000"));
+}
+
+QSize NumberBox::minimumSizeHint() const {
+    return RoomFor(*this, QLineEdit::minimumSizeHint(), QStringLiteral("0000"));
+}
+
+}  // namespace quenloft
