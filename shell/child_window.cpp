@@ -48,6 +48,14 @@ void ChildWindow::CloseUnasked() {
     CloseWindow();
 }
 
+void ChildWindow::showEvent(QShowEvent* event) {
+    if (!wasShown_) {
+        wasShown_ = true;
+        MoveIntoView();
+    }
+    QWidget::showEvent(event);
+}
+
 void ChildWindow::closeEvent(QCloseEvent* event) {
     if (running_) {
         // The run below on the stack still uses this window.
@@ -62,6 +70,17 @@ void ChildWindow::closeEvent(QCloseEvent* event) {
     }
     SaveState();
     event->accept();
+}
+
+void ChildWindow::MoveIntoView() {
+    auto* frame = qobject_cast<QMdiSubWindow*>(parentWidget());
+    if (!frame || !frame->parentWidget()) {
+        return;
+    }
+    // The fixed places were chosen for larger screens than some users have.
+    const QSize room = frame->parentWidget()->size() - frame->size();
+    frame->move(qBound(0, frame->x(), qMax(0, room.width())),
+                qBound(0, frame->y(), qMax(0, room.height())));
 }
 
 void ChildWindow::EndRun() {

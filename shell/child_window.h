@@ -67,6 +67,7 @@ class ChildWindow : public QWidget {
     void CloseUnasked();
 
   protected:
+    void showEvent(QShowEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
     Workspace& workspace_;
@@ -74,8 +75,11 @@ class ChildWindow : public QWidget {
   private:
     friend class GenerationRun;
     void EndRun();
+    /// Moves the frame to where all of it can be seen, as far as there is room.
+    void MoveIntoView();
 
     const TwipsPoint place_;
+    bool wasShown_ = false;
     bool running_ = false;  // A run of this window is on the stack.
     bool closeAfterRun_ = false;
     bool asked_ = false;
