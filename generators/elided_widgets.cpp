@@ -1,0 +1,92 @@
+#include "generators/elided_widgets.h"
+
+#include <QPainter>
+#include <QStyleOptionButton>
+#include <QStylePainter>
+
+namespace quenloft {
+namespace {
+
+// Narrower than this, a title tells nothing.
+constexpr int kFewestLetters = 10;
+// Wider than this, a title alone does not make its window wider.
+constexpr int kMostLetters = 40;
+
+// The bar of a marked button, and its distance from the edges.
+constexpr int kBar = 4;
+constexpr int kEdge = 2;
+
+// Whatever the title holds, it is text; and long ones are wrapped.
+QString ToolTipOf(const QString& title) {
+    return title.isEmpty() ? QString() : QStringLiteral("<qt>%1</qt>").arg(title.toHtmlEscaped());
+}
+
+int WidthOf(const QWidget& widget, int letters) {
+    return widget.fontMetrics().averageCharWidth() * letters;
+}
+
+}  // namespace
+
+TitleButton::TitleButton(QWidget* parent) : QPushButton(parent) {
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
+
+void TitleButton::SetTitle(const QString& title) {
+    setText(QString(title).replace(u'&', QLatin1String("&&")));
+    setToolTip(ToolTipOf(title));
+}
+
+void TitleButton::SetMarked(bool marked) {
+    if (marked_ == marked) {
+        return;
+    }
+    marked_ = marked;
+    QFont bold = font();
+    bold.setBold(marked);
+    setFont(bold);
+    setAccessibleDescription(marked ? tr("Its result is shown") : QString());
+}
+
+QSize TitleButton::sizeHint() const {
+    const QSize whole = QPushButton::sizeHint();
+    return {qMin(whole.width(), WidthOf(*this, kMostLetters)), whole.height()};
+}
+
+QSize TitleButton::minimumSizeHint() const {
+    return {WidthOf(*this, kFewestLetters), QPushButton::minimumSizeHint().height()};
+}
+
+void TitleButton::paintEvent(QPaintEvent* /*event*/) {
+    QStylePainter painter(this);
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    const QRect inside = style()->subElementRect(QStyle::SE_PushButtonContents, &option, this);
+    option.text = option.fontMetrics.elidedText(
+        option.text, Qt::ElideRight, inside.width() - 2 * (kBar + kEdge), Qt::TextShowMnemonic);
+    painter.drawControl(QStyle::CE_PushButton, option);
+    if (marked_) {
+        const QRect bar(isRightToLeft() ? width() - kEdge - kBar : kEdge, kEdge, kBar,
+                        height() - 2 * kEdge);
+        painter.fillRect(bar, palette().highlight());
+    }
+}
+
+ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent) { setTextFormat(Qt::PlainText); }
+
+void ElidedLabel::SetTitle(const QString& title) {
+    setText(title);
+    setToolTip(ToolTipOf(title));
+}
+
+QSize ElidedLabel::minimumSizeHint() const {
+    return {WidthOf(*this, kFewestLetters), fontMetrics().height()};
+}
+
+void ElidedLabel::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    style()->drawItemText(&painter, rect(), Qt::AlignVCenter | Qt::AlignLeading, palette(),
+                          isEnabled(), fontMetrics().elidedText(text(), Qt::ElideRight, width()),
+                          foregroundRole());
+}
+
+}  // namespace quenloft

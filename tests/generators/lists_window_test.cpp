@@ -1,0 +1,263 @@
+#include <QLabel>
+#include <QPushButton>
+#include <QTimer>
+
+#include "engine/program_title.h"
+#include "engine/value.h"
+#include "generators/elided_widgets.h"
+#include "tests/generators/generators_fixture.h"
+
+namespace quenloft {
+namespace {
+
+class ListsTest : public GeneratorsFixture {
+  protected:
+    void Open() {
+        ShowMainWindow(window);
+        Choose(window, "mnuView_ListPage");
+        lists = window.Open(form::kLists);
+    }
+    template <typename Control = QAbstractButton>
+    Control* Find(const char* name, int index) {
+        return lists->findChild<Control*>(QString("%1_%2").arg(name).arg(index));
+    }
+    void Click(const char* name, int index) { Find(name, index)->click(); }
+    std::string Out(int box) { return Find<TextBox>("txtOut", box)->Text(); }
+    std::string Title(int slot) { return Find("btnGenerate", slot)->text().toStdString(); }
+    void Load(int slot, const std::string& name) {
+        dialogs.WillGive(folder.Path(name));
+        Click("btnLoad", slot);
+    }
+    /// What each output box shows, as "title: text".
+    std::string Boxes() {
+        std::string boxes;
+        for (int box = 0; box < 6; ++box) {
+            boxes +=
+                "[" + Find<QLabel>("lblResult", box)->text().toStdString() + ": " + Out(box) + "]";
+        }
+        return boxes;
+    }
+    std::string MarkedSlots() {
+        std::string marked;
+        for (int slot = 0; slot < 18; ++slot) {
+            if (Find<TitleButton>("btnGenerate", slot)->IsMarked()) {
+                marked += std::to_string(slot) + " ";
+            }
+        }
+        return marked;
+    }
+
+    frmMain window{Services(), Kinds()};
+    QPointer<ChildWindow> lists;
+};
+
+TEST_F(ListsTest, ThreeSlotsShareABoxAndItsTitleAndMarkTellWhose) {
+    Open();
+    EXPECT_EQ(Title(17), "Click the button on the right to select a table");
+    Load(0, "lib/orcs.tbl");
+    Load(2, "lib/elves.tbl");
+    Load(3, "lib/orcs.tbl");
+    Load(17, "lib/elves.tbl");
+    EXPECT_EQ(Title(2), "Elves");
+    for (const int slot : {0, 2, 3, 17, 6}) {
+        Click("btnGenerate", slot);
+    }
+    EXPECT_EQ(Boxes(),
+              "[Elves: An elf.][Orcs: An orc.][: No file loaded!][: ][: ][Elves: An elf.]");
+    EXPECT_EQ(MarkedSlots(), "2 3 6 17 ");
+    Load(2, "lib/orcs.tbl");
+    EXPECT_EQ(Boxes().substr(0, 16), "[Elves: An elf.]") << "the result is still of the elves";
+    EXPECT_EQ(MarkedSlots(), "3 6 17 ");
+}
+
+TEST_F(ListsTest, TheDialogBeginsAtTheSlotsFolderAndCancellingKeepsTheTable) {
+    Open();
+    Load(4, "lib/orcs.tbl");
+    dialogs.WillCancel();
+    Click("btnLoad", 4);
+    const std::string open = "open: Table (*.tbl)|*.tbl|All files (*.*)|*.* in ";
+    EXPECT_EQ(dialogs.TakeLog(),
+              (std::vector<std::string>{open + folder.Path(), open + folder.Path("lib")}));
+    EXPECT_EQ(Title(4), "Orcs");
+}
+
+TEST_F(ListsTest, SlotsComeBackWithTheWindow) {
+    Open();
+    Load(0, "lib/orcs.tbl");
+    Load(17, "lib/elves.tbl");
+    lists->CloseWindow();
+    LetWindowsClose();
+    ASSERT_FALSE(lists);
+    std::filesystem::remove(folder.Path("lib/orcs.tbl"));
+    Open();
+    EXPECT_EQ(Title(0), "Click the button on the right to select a table");
+    EXPECT_EQ(Title(17), "Elves");
+    Click("btnGenerate", 17);
+    EXPECT_EQ(Out(5), "An elf.");
+}
+
+TEST_F(ListsTest, ClosingTheProgramKeepsTheSlots) {
+    Open();
+    Load(1, "lib/orcs.tbl");
+    window.close();
+    EXPECT_EQ(profile.ReadProfileString("ListPage", "Table1", "", profile.GetProfileFileName()),
+              folder.Path("lib/orcs.tbl"));
+}
+
+TEST_F(ListsTest, OneDroppedFileIsBoundToTheSlotItIsDroppedOn) {
+    Open();
+    QWidget* row = Find("btnGenerate", 7)->parentWidget();
+    EXPECT_FALSE(Drop(*row, {UrlOf("lib")}));
+    EXPECT_FALSE(Drop(*row, {UrlOf("lib/orcs.tbl"), UrlOf("lib/elves.tbl")}));
+    EXPECT_FALSE(Drop(*row, {QUrl("https://example.org/orcs.tbl")}));
+    EXPECT_TRUE(Drop(*row, {UrlOf("lib/elves.tbl")}));
+    EXPECT_EQ(Title(7), "Elves");
+    EXPECT_EQ(Title(6), "Click the button on the right to select a table");
+}
+
+TEST_F(ListsTest, LongTitlesAreElidedAndTheTooltipHasTheWhole) {
+    const std::string title = "Orcs & <b>elves</b> " + std::string(2000, 'x');
+    WriteTable("lib/long.tbl", title, "one");
+    Open();
+    const QSize before = lists->minimumSizeHint();
+    Load(0, "lib/long.tbl");
+    QAbstractButton* button = Find("btnGenerate", 0);
+    EXPECT_EQ(button->text().replace("&&", "&").toStdString(), title);
+    EXPECT_EQ(button->toolTip(), "<qt>" + QString::fromStdString(title).toHtmlEscaped() + "</qt>");
+    Click("btnGenerate", 0);
+    QCoreApplication::processEvents();
+    EXPECT_LT(button->width(), lists->width() / 2);
+    EXPECT_EQ(lists->minimumSizeHint(), before) << "a title makes the window wider";
+}
+
+TEST_F(ListsTest, TheBoxesGetTheRoomAndNothingIsCutOffAtAnySize) {
+    Open();
+    for (const QSize size : {QSize(1280, 800), QSize(2560, 1440), QSize(500, 400)}) {
+        window.resize(size);
+        lists->parentWidget()->setGeometry(0, 0, size.width() - 10, size.height() - 80);
+        QCoreApplication::processEvents();
+        for (int slot = 0; slot < 18; ++slot) {
+            const auto* edit = Find("btnEdit", slot);
+            EXPECT_GE(edit->width(), edit->sizeHint().width()) << slot;
+            const int right = edit->mapTo(lists, edit->rect().topRight()).x();
+            EXPECT_LE(right, lists->width()) << slot << " at " << size.width();
+        }
+        int area = 0;
+        for (int box = 0; box < 6; ++box) {
+            const QSize out = Find<TextBox>("txtOut", box)->size();
+            area += out.width() * out.height();
+        }
+        if (size.width() > 500) {
+            EXPECT_GT(area, lists->width() * lists->height() / 2) << size.width();
+        }
+    }
+}
+
+TEST_F(ListsTest, OpensWhollyInsideTheMainWindow) {
+    Open();
+    const QWidget* frame = lists->parentWidget();
+    EXPECT_TRUE(frame->parentWidget()->rect().contains(frame->geometry()));
+    Choose(window, "mnuWindow_Arrange");
+    EXPECT_EQ(frame->pos(), QPoint(367, 484));
+}
+
+TEST_F(ListsTest, CopyAndCutOfASlotsButtonActOnTheBoxThatItFills) {
+    Open();
+    Load(4, "lib/orcs.tbl");
+    Click("btnGenerate", 4);
+    for (const char* name : {"btnGenerate", "btnLoad"}) {
+        clipboard.text = "before";
+        Find(name, 5)->setFocus();
+        Choose(window, "mnuEdit_Copy");
+        EXPECT_EQ(clipboard.text, "An orc.") << name;
+    }
+    EXPECT_EQ(Out(1), "An orc.");
+    Choose(window, "mnuEdit_Cut");
+    EXPECT_EQ(Out(1), "");
+    Find("btnGenerate", 2)->setFocus();
+    Choose(window, "mnuEdit_Copy");
+    EXPECT_EQ(clipboard.text, "") << "the first box is empty";
+}
+
+TEST_F(ListsTest, PrintsTheSlotThatWasGeneratedLast) {
+    Open();
+    Load(0, "lib/orcs.tbl");
+    Load(5, "lib/elves.tbl");
+    Click("btnGenerate", 5);
+    Click("btnGenerate", 0);
+    Choose(window, "mnuFile_Print");
+    const std::string text = printer.printed.at(0);
+    const std::string date = DateTimeText().substr(0, 10);
+    EXPECT_EQ(text.substr(0, text.size() - std::string(" 20:15:00").size()),
+              "Table : Orcs\r\nResult :\r\nAn orc.\r\n\r\nFilename : " +
+                  folder.Path("lib/orcs.tbl") + "\r\nPrinted by " + ProgramTitle() + " " + date);
+}
+
+TEST_F(ListsTest, EditOpensTheTablesEditorOrANewTable) {
+    Open();
+    Load(1, "lib/orcs.tbl");
+    Click("btnEdit", 1);
+    EXPECT_EQ(editor->asked,
+              std::vector<std::string>{"load " + folder.LibraryPath("lib/orcs.tbl")});
+    Click("btnEdit", 2);
+    EXPECT_EQ(editor->asked, std::vector<std::string>{"new file"});
+}
+
+TEST_F(ListsTest, WithoutATableEditorThereIsNothingToEditWith) {
+    frmMain bare(Services(), {{form::kLists, Instances::One, Make<frmLists>}});
+    const ChildWindow* page = bare.Open(form::kLists);
+    EXPECT_FALSE(page->findChild<QPushButton*>("btnEdit_0")->isEnabled());
+}
+
+TEST_F(ListsTest, ARunShowsThatItGoesOnKeepsOthersOutAndStopsOnAbort) {
+    Open();
+    Load(0, "lib/endless.tbl");
+    Load(3, "lib/orcs.tbl");
+    bool looked = false;
+    QTimer::singleShot(0, [&] {
+        looked = true;
+        EXPECT_TRUE(Find<TextBox>("txtOut", 0)->placeholderText().startsWith("Running."));
+        Click("btnGenerate", 3);
+        EXPECT_EQ(Out(1), "");
+        Load(4, "lib/elves.tbl");
+        Choose(window, "mnuAbort");
+    });
+    Click("btnGenerate", 0);
+    EXPECT_TRUE(looked);
+    EXPECT_NE(Out(0).find("Process Aborted!"), std::string::npos) << Out(0);
+    EXPECT_EQ(Find<TextBox>("txtOut", 0)->placeholderText(), "");
+    Click("btnGenerate", 3);
+    EXPECT_EQ(Out(1), "An orc.");
+}
+
+TEST_F(ListsTest, ClosingWhileARunGoesOnEndsTheRunFirst) {
+    Open();
+    Load(0, "lib/endless.tbl");
+    bool stillThere = false;
+    QTimer::singleShot(0, [&] {
+        lists->CloseWindow();
+        stillThere = lists;
+    });
+    Click("btnGenerate", 0);
+    EXPECT_TRUE(stillThere);
+    LetWindowsClose();
+    EXPECT_FALSE(lists);
+    EXPECT_EQ(profile.ReadProfileString("ListPage", "Table0", "", profile.GetProfileFileName()),
+              folder.Path("lib/endless.tbl"));
+}
+
+TEST_F(ListsTest, TabFollowsTheEye) {
+    Open();
+    Find("btnGenerate", 0)->setFocus();
+    QStringList order;
+    for (int i = 0; i < 11; ++i) {
+        order << QApplication::focusWidget()->objectName();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    EXPECT_EQ(order.join(" "),
+              "btnGenerate_0 btnLoad_0 btnEdit_0 btnGenerate_1 btnLoad_1 btnEdit_1 btnGenerate_2 "
+              "btnLoad_2 btnEdit_2 txtOut_0 btnGenerate_3");
+}
+
+}  // namespace
+}  // namespace quenloft

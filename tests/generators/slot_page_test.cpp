@@ -1,0 +1,120 @@
+#include "generators/slot_page.h"
+
+#include "platform/linux/linux_profile_file.h"
+#include "tests/support/engine_fixture.h"
+
+namespace quenloft {
+namespace {
+
+class SlotPageTest : public EngineFixture {
+  protected:
+    void WriteProfile(const std::string& lines) {
+        folder.Write("quenloft.INI", "[ListPage]\r\n" + lines);
+    }
+    std::string Titles() {
+        std::string titles;
+        for (int i = 0; i < SlotPage::kSlots; ++i) {
+            if (!page.At(i).IsEmpty()) {
+                titles += std::to_string(i) + "=" + page.At(i).title + " ";
+            }
+        }
+        return titles;
+    }
+    void WriteTitled(std::string_view name, const std::string& title) {
+        folder.Write(name, title +
+                               "\xA4"
+                               "1\r\n\r\n1\xA7"
+                               "one\r\n");
+    }
+
+    LinuxProfileFile profile{files, folder.Path() + "/quenloft", folder.Path() + "/config"};
+    SlotPage page;
+};
+
+TEST_F(SlotPageTest, OnlyTheTwentyOneSlotsCanBeBound) {
+    WriteTitled("orcs.tbl", "Orcs");
+    const TableSlot orcs = BindTable(engine, folder.Path("orcs.tbl"));
+    for (const int index : {-1, 21, 22, 1000}) {
+        EXPECT_FALSE(page.Bind(index, orcs)) << index;
+        EXPECT_TRUE(page.At(index).IsEmpty()) << index;
+    }
+    EXPECT_EQ(Titles(), "");
+    EXPECT_TRUE(page.Bind(0, orcs));
+    EXPECT_TRUE(page.Bind(20, orcs));
+    EXPECT_EQ(Titles(), "0=Orcs 20=Orcs ");
+}
+
+TEST_F(SlotPageTest, PathsOfEitherFormComeBackWithTheirFolder) {
+    WriteTitled("lib/orcs.tbl", "Orcs");
+    WriteTitled("lib/sub/Elves.tbl", "Elves");
+    WriteProfile("Table0=" + folder.Path("lib/orcs.tbl") +
+                 "\r\nTable12=" + folder.LibraryPath("LIB/sub/elves.TBL") + "\r\nTable20=" +
+                 folder.Path("lib/orcs.tbl") + "\r\nTable21=" + folder.Path("lib/orcs.tbl") +
+                 "\r\nTable01=" + folder.Path("lib/orcs.tbl") + "\r\n");
+    page.Restore(engine, profile);
+    EXPECT_EQ(Titles(), "0=Orcs 12=Elves 20=Orcs ");
+    EXPECT_EQ(page.At(12).path, folder.LibraryPath("lib/sub/Elves.tbl"));
+    EXPECT_EQ(page.At(12).folder, folder.LibraryPath("lib/sub"));
+    EXPECT_EQ(files.CurrentDirectory(), folder.LibraryPath("lib")) << "the last slot's folder";
+}
+
+TEST_F(SlotPageTest, WhatIsNoFileComesBackEmptyAndItsKeyStays) {
+    WriteTitled("orcs.tbl", "Orcs");
+    WriteTitled("gone.tbl", "Gone");
+    folder.Write("folder.tbl/inside", "");
+    const std::string lines =
+        "Table0=" + folder.Path("gone.tbl") + "\r\nTable1=" + folder.Path("folder.tbl") +
+        "\r\nTable2=\r\nTable3=C:\\lib\\x.tbl" + "\r\nTable4=" + folder.Path("orcs.tbl") + "\r\n";
+    WriteProfile(lines);
+    page.Restore(engine, profile);
+    EXPECT_EQ(Titles(), "0=Gone 4=Orcs ");
+    std::filesystem::remove(folder.Path("gone.tbl"));
+    page.Restore(engine, profile);
+    EXPECT_EQ(Titles(), "4=Orcs ");
+    page.Save(files, profile);
+    EXPECT_EQ(folder.Read("quenloft.INI"), "[ListPage]\r\n" + lines);
+}
+
+TEST_F(SlotPageTest, SavingWritesEachBoundSlotAsANativePath) {
+    WriteTitled("lib/orcs.tbl", "Orcs");
+    WriteProfile("; mine\r\nTable0=/old.tbl\r\nTable1=/kept.tbl\r\n");
+    const TableSlot orcs = BindTable(engine, folder.LibraryPath("lib/orcs.tbl"));
+    page.Bind(0, orcs);
+    page.Bind(20, orcs);
+    page.Save(files, profile);
+    const std::string path = folder.Path("lib/orcs.tbl");
+    EXPECT_EQ(folder.Read("quenloft.INI"), "[ListPage]\r\n; mine\r\nTable0=" + path +
+                                               "\r\nTable1=/kept.tbl\r\nTable20=" + path + "\r\n");
+}
+
+TEST_F(SlotPageTest, AFileThatIsNoTableSaysSoInItsTitle) {
+    folder.Write("notes.txt", "Nothing to roll.\r\n");
+    EXPECT_EQ(BindTable(engine, folder.Path("notes.txt")).title, "!Invalid fileheader!");
+}
+
+TEST_F(SlotPageTest, RollingForgetsTheVariablesOfOtherRunsAndEntersTheSlotsFolder) {
+    WriteTable("lib/a.tbl", "[??gold=1????gold??] #b#");
+    WriteTable("lib/b.tbl", "beside");
+    WriteTable("reads.tbl", "[??gold??]");
+    const TableSlot writes = BindTable(engine, folder.Path("lib/a.tbl"));
+    const TableSlot reads = BindTable(engine, folder.Path("reads.tbl"));
+    const std::string unset = RollSlot(engine, reads);
+    EXPECT_EQ(RollSlot(engine, writes), "[1] beside");
+    EXPECT_EQ(RollSlot(engine, reads), unset);
+    EXPECT_EQ(RollSlot(engine, TableSlot()), "No file loaded!");
+}
+
+TEST_F(SlotPageTest, ASlotWhoseFolderWentAwayGivesTheEnginesText) {
+    WriteTable("lib/a.tbl", "one");
+    const TableSlot slot = BindTable(engine, folder.Path("lib/a.tbl"));
+    std::filesystem::remove_all(folder.Path("lib"));
+    EXPECT_EQ(RollSlot(engine, slot), Roll("lib/a.tbl"));
+    EXPECT_EQ(files.CurrentDirectory(), folder.LibraryPath());
+}
+
+TEST_F(SlotPageTest, ATableInTheRootHasTheRootAsItsFolder) {
+    EXPECT_EQ(BindTable(engine, "/no_such_table.tbl").folder, "Z:\\");
+}
+
+}  // namespace
+}  // namespace quenloft
