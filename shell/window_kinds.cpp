@@ -1,6 +1,9 @@
 #include "shell/window_kinds.h"
 
 #include "explorer/explorer_window.h"
+#include "generators/list_single_window.h"
+#include "generators/lists_window.h"
+#include "generators/script_window.h"
 #include "shell/form_names.h"
 
 namespace quenloft {
@@ -16,6 +19,9 @@ ChildWindow* Make(Workspace& workspace) {
 std::vector<WindowKind> MakeWindowKinds() {
     return {
         {form::kExplorer, Instances::One, Make<frmExplorer>},
+        {form::kLists, Instances::One, Make<frmLists>},
+        {form::kSingleList, Instances::Many, Make<frmListSingle>},
+        {form::kScript, Instances::Many, Make<frmScript>},
     };
 }
 
