@@ -45,7 +45,7 @@ int main(int argc, char* argv[]) {
     Engine engine(files, random, host);
 
     frmMain mainWindow({engine, host, files, profile, dialogs, clipboard, printer, desktop},
-                       MakeWindowKinds());
+                       MakeWindowKinds(random));
     mainWindow.StartUp();
     return QApplication::exec();
 }

@@ -1,9 +1,17 @@
 #include "shell/window_kinds.h"
 
+#include <memory>
+
+#include "dice/dice_window.h"
+#include "dice/drovemark_window.h"
+#include "dice/probability_window.h"
+#include "dice/shadowrun_window.h"
+#include "dice/simulation_on.h"
 #include "explorer/explorer_window.h"
 #include "generators/list_single_window.h"
 #include "generators/lists_window.h"
 #include "generators/script_window.h"
+#include "platform/linux/system_random_source.h"
 #include "shell/form_names.h"
 
 namespace quenloft {
@@ -14,14 +22,29 @@ ChildWindow* Make(Workspace& workspace) {
     return new Window(workspace);
 }
 
+/// For windows that simulate; they share the simulation.
+template <typename Window>
+auto MakeWith(const std::shared_ptr<Simulation>& simulation) {
+    return [simulation](Workspace& workspace) -> ChildWindow* {
+        return new Window(workspace, *simulation);
+    };
+}
+
 }  // namespace
 
-std::vector<WindowKind> MakeWindowKinds() {
+std::vector<WindowKind> MakeWindowKinds(SystemRandomSource& random) {
+    const auto simulation = std::make_shared<SimulationOn<SystemRandomSource>>(random);
     return {
         {form::kExplorer, Instances::One, Make<frmExplorer>},
         {form::kLists, Instances::One, Make<frmLists>},
         {form::kSingleList, Instances::Many, Make<frmListSingle>},
         {form::kScript, Instances::Many, Make<frmScript>},
+        {form::kDice, Instances::One,
+         [&random](Workspace& workspace) { return new frmDice(workspace, random); }},
+        {form::kProbability, Instances::Many, MakeWith<frmProbability>(simulation)},
+        {form::kShadowrunProbability, Instances::Many,
+         MakeWith<frmShadowrunProbability>(simulation)},
+        {form::kDrovemark, Instances::Many, MakeWith<frmDrovemark>(simulation)},
     };
 }
 

@@ -7,6 +7,7 @@
 namespace quenloft {
 
 class ChildWindow;
+class SystemRandomSource;
 class Workspace;
 
 enum class Instances { One, Many };
@@ -17,6 +18,7 @@ struct WindowKind {
     std::function<ChildWindow*(Workspace&)> make;
 };
 
-std::vector<WindowKind> MakeWindowKinds();
+/// `random` is what the dice windows roll with; it outlives them.
+std::vector<WindowKind> MakeWindowKinds(SystemRandomSource& random);
 
 }  // namespace quenloft
