@@ -104,7 +104,7 @@ TEST_F(QtDialogsTest, ANameWithoutExtensionGetsTheOneOfTheChosenFilter) {
             QTest::keyClick(dialog.findChild<QLineEdit*>("fileNameEdit"), Qt::Key_Return);
         });
         EXPECT_EQ(dialogs.ChooseFileToSave(
-                      "Text(*.txt)|*.txt|Table (*.tbl)|*.tbl|All files(*.*)|*.*", folder.Path()),
+                      "Text(*.txt)|*.txt|Table (*.tbl)|*.tbl|All files(*.*)|*.*", folder.Path(), 1),
                   folder.Path(c.saved));
     }
 }
