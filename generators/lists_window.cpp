@@ -108,7 +108,7 @@ QWidget* frmLists::MakeGroup(int box) {
     txtOut_[box]->setAccessibleName(
         tr("Results of buttons %1 to %2").arg(firstSlot).arg(firstSlot + kSlotsToABox - 1));
     workspace_.ApplyFontSettings(*txtOut_[box], kOutputFont);
-    constexpr int kFewestLines = 4;
+    constexpr int kFewestLines = 6;
     txtOut_[box]->setMinimumHeight(txtOut_[box]->fontMetrics().lineSpacing() * kFewestLines);
     column->addWidget(txtOut_[box], 1);
     return group;

@@ -219,7 +219,7 @@ TEST_F(ListsTest, ARunShowsThatItGoesOnKeepsOthersOutAndStopsOnAbort) {
         EXPECT_TRUE(Find<TextBox>("txtOut", 0)->placeholderText().startsWith("Running."));
         Click("btnGenerate", 3);
         EXPECT_EQ(Out(1), "");
-        Load(4, "lib/elves.tbl");
+        Load(0, "lib/elves.tbl");
         Choose(window, "mnuAbort");
     });
     Click("btnGenerate", 0);

@@ -87,6 +87,12 @@ TEST_F(SlotPageTest, SavingWritesEachBoundSlotAsANativePath) {
                                                "\r\nTable1=/kept.tbl\r\nTable20=" + path + "\r\n");
 }
 
+TEST_F(SlotPageTest, AFileNewerThanTheLastLookIsFound) {
+    EXPECT_FALSE(files.FileExists(folder.Path("lib/new.tbl")));
+    WriteTitled("lib/new.tbl", "New");
+    EXPECT_EQ(BindTable(engine, folder.Path("LIB/NEW.tbl")).title, "New");
+}
+
 TEST_F(SlotPageTest, AFileThatIsNoTableSaysSoInItsTitle) {
     folder.Write("notes.txt", "Nothing to roll.\r\n");
     EXPECT_EQ(BindTable(engine, folder.Path("notes.txt")).title, "!Invalid fileheader!");
@@ -99,8 +105,10 @@ TEST_F(SlotPageTest, RollingForgetsTheVariablesOfOtherRunsAndEntersTheSlotsFolde
     const TableSlot writes = BindTable(engine, folder.Path("lib/a.tbl"));
     const TableSlot reads = BindTable(engine, folder.Path("reads.tbl"));
     const std::string unset = RollSlot(engine, reads);
+    engine.RollTable(writes.path);
+    EXPECT_EQ(RollSlot(engine, reads), unset) << "left over from a run before";
     EXPECT_EQ(RollSlot(engine, writes), "[1] beside");
-    EXPECT_EQ(RollSlot(engine, reads), unset);
+    EXPECT_EQ(engine.RollTable(reads.path), unset) << "left over from this run";
     EXPECT_EQ(RollSlot(engine, TableSlot()), "No file loaded!");
 }
 
