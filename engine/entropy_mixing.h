@@ -25,17 +25,12 @@ inline double FastFloor(double number) {
 /// taken from it. `Source` is RandomSource or a class derived from it.
 template <typename Source>
 bool MixEntropyInto(Source& random, double seed) {
-    const double tick = random.TickCount();
-    const MemoryFigures memory = random.Memory();
-    const std::array figures = {tick,
-                                memory.availablePageFile,
-                                memory.availablePhysical,
-                                memory.availableVirtual,
-                                memory.structureLength,
-                                memory.memoryLoad,
-                                memory.totalPageFile,
-                                memory.totalPhysical,
-                                memory.totalVirtual};
+    const MachineFigures machine = random.Machine();
+    const MemoryFigures& memory = machine.memory;
+    const std::array figures = {
+        machine.tickCount,       memory.availablePageFile, memory.availablePhysical,
+        memory.availableVirtual, memory.structureLength,   memory.memoryLoad,
+        memory.totalPageFile,    memory.totalPhysical,     memory.totalVirtual};
     std::array<double, figures.size() + 1> values{};
     random.NextValues(values);
     double sum = 0;

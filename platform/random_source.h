@@ -19,6 +19,12 @@ struct MemoryFigures {
     double availableVirtual = 0;
 };
 
+/// What is mixed into the generator where randomness is to be increased.
+struct MachineFigures {
+    double tickCount = 0;
+    MemoryFigures memory;
+};
+
 class RandomSource {
   public:
     virtual ~RandomSource() = default;
@@ -40,6 +46,8 @@ class RandomSource {
     virtual double TickCount() = 0;
     /// Read anew at most once per tick of the timer.
     virtual MemoryFigures Memory() = 0;
+    /// Both at once.
+    virtual MachineFigures Machine() { return {TickCount(), Memory()}; }
 };
 
 }  // namespace quenloft

@@ -16,7 +16,7 @@ FoldingPcg GeneratorFromSystemEntropy() {
 
 SystemRandomSource::SystemRandomSource() : generator_(GeneratorFromSystemEntropy()) {}
 
-void SystemRandomSource::ReadMemory() {
+void SystemRandomSource::ReadMemory(MemoryFigures& memory) {
     // The address space of a 64-bit process: 47 bits for user space.
     constexpr double kAddressSpace = 140737488355328.0;
     struct sysinfo info {};
@@ -24,17 +24,16 @@ void SystemRandomSource::ReadMemory() {
         return;  // The figures stay as they were: entropy is only ever added.
     }
     const double unit = info.mem_unit;
-    memory_.structureLength = sizeof(info);
-    memory_.totalPhysical = static_cast<double>(info.totalram) * unit;
-    memory_.availablePhysical = static_cast<double>(info.freeram + info.bufferram) * unit;
-    memory_.totalPageFile = memory_.totalPhysical + static_cast<double>(info.totalswap) * unit;
-    memory_.availablePageFile =
-        memory_.availablePhysical + static_cast<double>(info.freeswap) * unit;
-    memory_.totalVirtual = kAddressSpace;
-    memory_.availableVirtual = kAddressSpace - (memory_.totalPhysical - memory_.availablePhysical);
-    memory_.memoryLoad = memory_.totalPhysical > 0
-                             ? 100.0 * (1.0 - memory_.availablePhysical / memory_.totalPhysical)
-                             : 0.0;
+    memory.structureLength = sizeof(info);
+    memory.totalPhysical = static_cast<double>(info.totalram) * unit;
+    memory.availablePhysical = static_cast<double>(info.freeram + info.bufferram) * unit;
+    memory.totalPageFile = memory.totalPhysical + static_cast<double>(info.totalswap) * unit;
+    memory.availablePageFile = memory.availablePhysical + static_cast<double>(info.freeswap) * unit;
+    memory.totalVirtual = kAddressSpace;
+    memory.availableVirtual = kAddressSpace - (memory.totalPhysical - memory.availablePhysical);
+    memory.memoryLoad = memory.totalPhysical > 0
+                            ? 100.0 * (1.0 - memory.availablePhysical / memory.totalPhysical)
+                            : 0.0;
 }
 
 }  // namespace quenloft

@@ -6,6 +6,7 @@
 
 #include <bit>
 #include <cmath>
+#include <cstddef>
 #include <cstdint>
 #include <pcg_random.hpp>
 #include <random>
@@ -15,18 +16,39 @@
 
 namespace quenloft {
 
-/// PCG with one operation more: entropy is folded into the running state.
-class FoldingPcg : public pcg_engines::oneseq_xsl_rr_128_64 {
-  public:
-    using pcg_engines::oneseq_xsl_rr_128_64::oneseq_xsl_rr_128_64;
+/// PCG with one operation more: entropy is folded in. It is kept beside the stream and changes what
+/// comes out of it, never the stream itself: that keeps its full period whatever is folded, and
+/// steps on while the entropy for the next die is still being worked out.
+class FoldingPcg : private pcg_engines::oneseq_xsl_rr_128_64 {
+    using Stream = pcg_engines::oneseq_xsl_rr_128_64;
 
-    void Fold(std::uint64_t entropy) {
-        // Odd 64-bit golden ratio, doubled: an even addend keeps the step's increment odd, and with
-        // it the full period, even where the same entropy comes again and again within one tick.
-        constexpr state_type kSpread =
-            (state_type(0x9E3779B97F4A7C15U) << 64) + 0xBF58476D1CE4E5B8U;
-        state_ = bump(state_ + kSpread * entropy);
+  public:
+    explicit FoldingPcg(pcg_extras::pcg128_t seed) : Stream(seed) {}
+
+    std::uint64_t operator()() { return Stream::operator()() ^ folded_; }
+    /// The next outputs, an even number of them, each given to `take` with its place. Two lanes
+    /// step over one another, for a step waits for the one before it.
+    template <typename Take>
+    void Generate(std::size_t count, Take take) {
+        const state_type twoSteps = multiplier() * multiplier();
+        const state_type twoIncrements = (multiplier() + 1) * increment();
+        state_type first = bump(state_);
+        state_type second = bump(first);
+        for (std::size_t i = 0; i < count; i += 2) {
+            take(i, output(first) ^ folded_);
+            take(i + 1, output(second) ^ folded_);
+            state_ = second;
+            first = first * twoSteps + twoIncrements;
+            second = second * twoSteps + twoIncrements;
+        }
     }
+    void Fold(std::uint64_t entropy) {
+        constexpr std::uint64_t kGoldenRatio = 0x9E3779B97F4A7C15U;  // Odd: nothing is lost.
+        folded_ = (folded_ + entropy) * kGoldenRatio;
+    }
+
+  private:
+    std::uint64_t folded_ = 0;
 };
 
 class SystemRandomSource final : public RandomSource {
@@ -34,28 +56,27 @@ class SystemRandomSource final : public RandomSource {
     /// Begins with entropy of the operating system.
     SystemRandomSource();
 
-    double Next() override {
-        constexpr double kScale = 1.0 / 9007199254740992.0;  // 2^-53: all that a double resolves.
-        return static_cast<double>(generator_() >> 11) * kScale;
-    }
+    double Next() override { return FromBits(generator_()); }
     void NextValues(std::span<double> values) override {
-        for (double& value : values) {
-            value = SystemRandomSource::Next();
+        const std::size_t even = values.size() / 2 * 2;
+        generator_.Generate(even, [values](std::size_t place, std::uint64_t bits) {
+            values[place] = FromBits(bits);
+        });
+        if (even < values.size()) {
+            values[even] = SystemRandomSource::Next();
         }
     }
     void ReseedFromTimer() override { generator_.Fold(TimerReading()); }
     void Reseed(double number) override { generator_.Fold(std::bit_cast<std::uint64_t>(number)); }
-    double TickCount() override { return std::floor(static_cast<double>(TimerReading()) / 1e6); }
-    MemoryFigures Memory() override {
-        const std::uint64_t now = TimerReading();
-        if (now != memoryReadAt_) {
-            memoryReadAt_ = now;
-            ReadMemory();
-        }
-        return memory_;
-    }
+    double TickCount() override { return FreshMachine().tickCount; }
+    MemoryFigures Memory() override { return FreshMachine().memory; }
+    MachineFigures Machine() override { return FreshMachine(); }
 
   private:
+    static double FromBits(std::uint64_t bits) {
+        constexpr double kScale = 1.0 / 9007199254740992.0;  // 2^-53: all that a double resolves.
+        return static_cast<double>(bits >> 11U) * kScale;
+    }
     /// Nanoseconds; moves on with the kernel's tick (every 1 to 10 ms) and costs a few nanoseconds.
     static std::uint64_t TimerReading() {
         timespec now{};
@@ -63,11 +84,21 @@ class SystemRandomSource final : public RandomSource {
         return static_cast<std::uint64_t>(now.tv_sec) * 1'000'000'000U +
                static_cast<std::uint64_t>(now.tv_nsec);
     }
-    void ReadMemory();
+    /// Read anew once per tick of the timer.
+    const MachineFigures& FreshMachine() {
+        const std::uint64_t now = TimerReading();
+        if (now != machineReadAt_) {
+            machineReadAt_ = now;
+            machine_.tickCount = std::floor(static_cast<double>(now) / 1e6);
+            ReadMemory(machine_.memory);
+        }
+        return machine_;
+    }
+    static void ReadMemory(MemoryFigures& memory);
 
     FoldingPcg generator_;
-    std::uint64_t memoryReadAt_ = 0;
-    MemoryFigures memory_;
+    std::uint64_t machineReadAt_ = 0;
+    MachineFigures machine_;
 };
 
 }  // namespace quenloft
