@@ -12,7 +12,7 @@ constexpr std::size_t kLongestLine = std::size_t{16} << 20U;
 }  // namespace
 
 void ReportLines::Add(std::string line) {
-    bytes_ += sizeof(line) + line.size();
+    bytes_ += sizeof(std::string) + line.size();
     if (bytes_ > kMostBytes) {
         throw Failure(FailureNumber::OutOfMemory);
     }

@@ -196,11 +196,11 @@ TEST(Simulation, FailsInTheRuntimesWords) {
     };
     for (const auto& [what, group, openEnded, words] : cases) {
         const std::vector<DiceGroup> groups = {group};
+        const DieRules rules{.openEnded = openEnded};
         SuccessCounts counts;
         EXPECT_EQ(FailureOf([&] {
-                      simulation.CountSuccesses(
-                          {.groups = groups, .rolls = 1, .rules = {.openEnded = openEnded}},
-                          counts);
+                      simulation.CountSuccesses({.groups = groups, .rolls = 1, .rules = rules},
+                                                counts);
                   }),
                   words)
             << what;
