@@ -13,6 +13,7 @@
 #include "platform/qt/qt_dialogs.h"
 #include "platform/qt/qt_printer.h"
 #include "shell/main_window.h"
+#include "shell/program_icon.h"
 #include "shell/qt_engine_host.h"
 #include "shell/window_kinds.h"
 
@@ -30,6 +31,7 @@ int main(int argc, char* argv[]) {
     QApplication application(argc, argv);
     // The toolkit takes the user's locale for numbers too; tables know only the full stop.
     std::setlocale(LC_NUMERIC, "C");
+    QApplication::setWindowIcon(ProgramIcon());
     QApplication::setDesktopFileName(QStringLiteral("quenloft"));
 
     LinuxFileSystem files;
