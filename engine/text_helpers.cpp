@@ -130,6 +130,19 @@ std::string ApplyCaseOfScriptName(LetterCase letterCase, std::string text) {
     return text;
 }
 
+std::string ShownTitle(std::string_view title, std::size_t mostLetters) {
+    constexpr char32_t kDelete = 0x7F;
+    std::string shown;
+    for (std::size_t letters = 0; !title.empty(); ++letters) {
+        if (letters == mostLetters) {
+            return shown + "…";
+        }
+        const char32_t letter = TakeLetter(title);
+        AppendLetter(shown, letter < U' ' || letter == kDelete ? U' ' : letter);
+    }
+    return shown;
+}
+
 bool IsScriptPath(std::string_view path) { return EndsWithExtension(path, "spt"); }
 
 bool IsTablePath(std::string_view path) { return EndsWithExtension(path, "tbl"); }

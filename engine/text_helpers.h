@@ -3,6 +3,7 @@
 // here are library paths; only "\" separates.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -45,6 +46,10 @@ LetterCase LetterCaseOfName(std::string_view path);
 /// `text` is not empty. Throws Failure for OneCapital.
 std::string ApplyCaseOfTableName(LetterCase letterCase, std::string text);
 std::string ApplyCaseOfScriptName(LetterCase letterCase, std::string text);
+
+/// A title as windows show it: control characters as blanks, and no more than `mostLetters` (a
+/// longer one ends in "…"). No title is that long; a broken file's first line may be.
+std::string ShownTitle(std::string_view title, std::size_t mostLetters = 200);
 
 /// True when the last four characters are ".spt", whatever their case.
 bool IsScriptPath(std::string_view path);

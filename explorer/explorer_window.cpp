@@ -66,7 +66,9 @@ QSize frmExplorer::OpeningSize(QSize area) const {
 }
 
 std::string frmExplorer::Export() {
-    return ExportText(ui_->txtOut->Text(), workspace_.Services().files.NativePath(SelectedFile()),
+    const std::string file = SelectedFile();
+    return ExportText(ui_->txtOut->Text(),
+                      file.empty() ? file : workspace_.Services().files.NativePath(file),
                       ProgramTitle(), Today());
 }
 
@@ -145,7 +147,9 @@ void frmExplorer::RunAsNew() {
     const std::string path = SelectedFile();
     if (ChildWindow* runner = workspace_.Open(RunnerForm())) {
         runner->Load(path);
-        runner->Run();
+        // Queued: closing this window during the run must not delete it under this handler.
+        QMetaObject::invokeMethod(
+            runner, [runner] { runner->Run(); }, Qt::QueuedConnection);
     }
 }
 
@@ -197,8 +201,8 @@ void frmExplorer::NewDirectory() {
     try {
         services.files.CreateFolder(path);
     } catch (const FileError& error) {
-        services.dialogs.ShowMessage(
-            std::string("Error i directory popup!\r\n") + error.what() + ".", MessageIcon::Warning);
+        services.dialogs.ShowMessage("Error i directory popup!", MessageIcon::Warning);
+        services.dialogs.ShowMessage(std::string(error.what()) + ".", MessageIcon::Warning);
         return;
     }
     treeMemory_->Remember();
@@ -219,7 +223,11 @@ void frmExplorer::RefreshTree() {
     const std::string failure =
         exists ? model_->RootFailure() : std::string("the folder does not exist");
     if (!failure.empty()) {
-        ui_->txtOut->SetText(MissingLibraryText(files.NativePath(library), failure));
+        missingText_ = MissingLibraryText(files.NativePath(library), failure);
+        ui_->txtOut->SetText(missingText_);
+    } else if (!missingText_.empty() && ui_->txtOut->Text() == missingText_) {
+        missingText_.clear();
+        ui_->txtOut->SetText("");
     }
     Refresh();
 }

@@ -68,6 +68,7 @@ class frmExplorer : public ChildWindow {
     const CommandPictures pictures_;
     LibraryModel* model_;
     std::unique_ptr<TreeMemory> treeMemory_;
+    std::string missingText_;  // What the output box says while there is no library to show.
 };
 
 }  // namespace quenloft

@@ -6,16 +6,7 @@
 #include "platform/letter_case.h"
 
 namespace quenloft {
-namespace {
-
-constexpr std::size_t kLongestLabel = 200;
-
-bool IsControl(char32_t letter) {
-    constexpr char32_t kDelete = 0x7F;
-    return letter < U' ' || letter == kDelete;
-}
-
-}  // namespace
+namespace {}  // namespace
 
 std::optional<ItemKind> KindOfFile(std::string_view name) {
     const std::size_t dot = name.rfind('.');
@@ -42,15 +33,7 @@ std::string LabelOfTable(std::string_view title, std::string_view name) {
     if (Trimmed(title).empty()) {
         return std::string(FileBaseName(name));
     }
-    std::string label;
-    for (std::size_t letters = 0; !title.empty(); ++letters) {
-        if (letters == kLongestLabel) {
-            return label + "…";
-        }
-        const char32_t letter = TakeLetter(title);
-        AppendLetter(label, IsControl(letter) ? U' ' : letter);
-    }
-    return label;
+    return ShownTitle(title);
 }
 
 void SortItems(std::vector<LibraryItem>& items) {

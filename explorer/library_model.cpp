@@ -93,6 +93,9 @@ void LibraryModel::ReloadFolder(const QModelIndex& folder) {
     };
     std::erase_if(wanted_, isInside);
     std::erase_if(ahead_, isInside);
+    for (const auto& child : node->children) {
+        aheadOf_.erase(child->realFolder);
+    }
     if (!node->children.empty()) {
         beginRemoveRows(folder, 0, static_cast<int>(node->children.size()) - 1);
         node->children.clear();

@@ -4,6 +4,9 @@
 #include <QStyleOptionButton>
 #include <QStylePainter>
 
+#include "engine/text_helpers.h"
+#include "platform/qt/qt_text.h"
+
 namespace quenloft {
 namespace {
 
@@ -18,7 +21,9 @@ constexpr int kEdge = 2;
 
 // Whatever the title holds, it is text; and long ones are wrapped.
 QString ToolTipOf(const QString& title) {
-    return title.isEmpty() ? QString() : QStringLiteral("<qt>%1</qt>").arg(title.toHtmlEscaped());
+    constexpr std::size_t kMostInToolTip = 5000;  // More than fits on a screen.
+    const QString shown = ToQt(ShownTitle(FromQt(title), kMostInToolTip));
+    return shown.isEmpty() ? QString() : QStringLiteral("<qt>%1</qt>").arg(shown.toHtmlEscaped());
 }
 
 int WidthOf(const QWidget& widget, int letters) {
@@ -32,7 +37,8 @@ TitleButton::TitleButton(QWidget* parent) : QPushButton(parent) {
 }
 
 void TitleButton::SetTitle(const QString& title) {
-    setText(QString(title).replace(u'&', QLatin1String("&&")));
+    const QString shown = ToQt(ShownTitle(FromQt(title)));
+    setText(QString(shown).replace(u'&', QLatin1String("&&")));
     setToolTip(ToolTipOf(title));
 }
 
@@ -74,7 +80,8 @@ void TitleButton::paintEvent(QPaintEvent* /*event*/) {
 ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent) { setTextFormat(Qt::PlainText); }
 
 void ElidedLabel::SetTitle(const QString& title) {
-    setText(title);
+    const QString shown = ToQt(ShownTitle(FromQt(title)));
+    setText(shown);
     setToolTip(ToolTipOf(title));
 }
 

@@ -23,11 +23,11 @@ std::string TableExportText(std::string_view title, std::string_view result, std
     return text;
 }
 
-std::string ScriptExportText(std::string_view output, std::string_view path,
+std::string ScriptExportText(std::string_view output, std::string_view fileName,
                              std::string_view program, std::string_view now) {
     std::string text(output);
     text.append(kLineBreak).append(kLineBreak);
-    AppendFooter(text, path, program, now);
+    AppendFooter(text, fileName, program, now);
     return text;
 }
 

@@ -10,7 +10,7 @@ namespace quenloft {
 std::string TableExportText(std::string_view title, std::string_view result, std::string_view path,
                             std::string_view program, std::string_view now);
 
-std::string ScriptExportText(std::string_view output, std::string_view path,
+std::string ScriptExportText(std::string_view output, std::string_view fileName,
                              std::string_view program, std::string_view now);
 
 }  // namespace quenloft

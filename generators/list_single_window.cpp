@@ -5,6 +5,7 @@
 
 #include "engine/engine.h"
 #include "engine/program_title.h"
+#include "engine/text_helpers.h"
 #include "engine/value.h"
 #include "generators/dropped_file.h"
 #include "generators/export_text.h"
@@ -104,7 +105,7 @@ void frmListSingle::Edit() {
 
 void frmListSingle::Bind(TableSlot slot) {
     slot_ = std::move(slot);
-    setWindowTitle(tr("Single List %1").arg(ToQt(slot_.title)));
+    setWindowTitle(tr("Single List %1").arg(ToQt(ShownTitle(slot_.title))));
     Refresh();
 }
 

@@ -1,6 +1,7 @@
 #include "generators/script_place.h"
 
 #include "engine/engine.h"
+#include "engine/text_helpers.h"
 #include "generators/working_folder.h"
 
 namespace quenloft {
@@ -14,6 +15,9 @@ bool IsAbsolute(std::string_view path) {
 }  // namespace
 
 std::string ScriptPath(FileSystem& files, std::string_view folder, std::string_view typed) {
+    // A relative name may begin with a blank, a full path cannot.
+    const std::string_view trimmed = Trimmed(typed);
+    typed = IsAbsolute(trimmed) ? trimmed : typed;
     if (folder.empty() || IsAbsolute(typed)) {
         return files.AbsolutePath(typed);
     }

@@ -54,7 +54,8 @@ QSize frmScript::OpeningSize(QSize area) const {
 }
 
 std::string frmScript::Export() {
-    return ScriptExportText(ui_->txtOut->Text(), NativeScriptPath(), ProgramTitle(),
+    const std::string path = NativeScriptPath();
+    return ScriptExportText(ui_->txtOut->Text(), path.substr(path.rfind('/') + 1), ProgramTitle(),
                             DateTimeText());
 }
 

@@ -21,7 +21,11 @@ std::int32_t ReadNumber(ProfileFile& profile, const char* key, std::int32_t defa
     }
 }
 
-bool ReadFlag(ProfileFile& profile, const char* key) { return ReadNumber(profile, key, 0) != 0; }
+bool ReadFlag(ProfileFile& profile, const char* key) {
+    const std::string text =
+        profile.ReadProfileString("Font", key, "0", profile.GetProfileFileName());
+    return ParseNumber(text).value_or(0) != 0;
+}
 
 bool WantsFont(const FontSettings& settings, int fontClass) {
     switch (fontClass) {

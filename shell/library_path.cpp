@@ -10,7 +10,11 @@ std::string ReadLibraryPath(ProfileFile& profile) {
     const std::string beside(DirectoryPart(profile.GetApplicationBaseName()));
     const std::string path =
         profile.ReadProfileString("Settings", "Libpath", beside, profile.GetProfileFileName());
-    return path.empty() ? beside : path;
+    if (path.empty()) {
+        return beside;
+    }
+    const bool isAbsolute = HasDrive(path) || path.front() == '/' || path.front() == '\\';
+    return isAbsolute ? path : beside + "\\" + path;
 }
 
 void EnterLibrary(ProfileFile& profile, FileSystem& files) {

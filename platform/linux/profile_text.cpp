@@ -178,7 +178,12 @@ bool CanBeWritten(std::string_view section, std::string_view key, std::string_vi
             return false;
         }
     }
-    return !section.empty() && !key.empty() && key.find('=') == std::string_view::npos;
+    const bool looksLikeOther =
+        key.starts_with(';') ||
+        (key.starts_with('[') && value.find(']') != std::string_view::npos) ||
+        (key.starts_with('[') && key.find(']') != std::string_view::npos);
+    return !section.empty() && !key.empty() && !looksLikeOther &&
+           key.find('=') == std::string_view::npos;
 }
 
 }  // namespace

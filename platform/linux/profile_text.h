@@ -12,7 +12,7 @@ namespace quenloft {
 
 /// The most characters that a value has, and the most that a complete list of keys has.
 inline constexpr std::size_t kLongestValue = 249;
-inline constexpr std::size_t kLongestKeyList = 1023;
+inline constexpr std::size_t kLongestKeyList = 1022;
 /// What is left of a list that is longer.
 inline constexpr std::size_t kCutKeyList = 1022;
 

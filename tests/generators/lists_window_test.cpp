@@ -122,7 +122,7 @@ TEST_F(ListsTest, LongTitlesAreElidedAndTheTooltipHasTheWhole) {
     const QSize before = lists->minimumSizeHint();
     Load(0, "lib/long.tbl");
     QAbstractButton* button = Find("btnGenerate", 0);
-    EXPECT_EQ(button->text().replace("&&", "&").toStdString(), title);
+    EXPECT_EQ(button->text().replace("&&", "&").toStdString(), title.substr(0, 200) + "…");
     EXPECT_EQ(button->toolTip(), "<qt>" + QString::fromStdString(title).toHtmlEscaped() + "</qt>");
     Click("btnGenerate", 0);
     QCoreApplication::processEvents();

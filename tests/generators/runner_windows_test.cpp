@@ -113,8 +113,7 @@ TEST_F(RunnerTest, OpenScriptAsksForOneAndRunsIt) {
     EXPECT_EQ(runner->windowTitle(), "Script ..\\village.spt");
     Click(*runner, "btnRun");
     EXPECT_EQ(Out(*runner), "A village.");
-    EXPECT_EQ(WithoutTime(runner->Export()),
-              "A village.\r\n\r\nFilename : " + folder.Path("lib/village.spt") + footer_);
+    EXPECT_EQ(WithoutTime(runner->Export()), "A village.\r\n\r\nFilename : village.spt" + footer_);
     Click(*runner, "btnEdit");
     EXPECT_EQ(editor->asked, std::vector<std::string>{"load " + folder.Path("lib/village.spt")});
 }

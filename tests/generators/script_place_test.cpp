@@ -60,8 +60,8 @@ TEST(ExportText, IsToTheLetter) {
                               "2026-11-21 20:15:00"),
               "Table : Orcs\r\nResult :\r\nAn orc.\r\nAngry.\r\n\r\nFilename : /lib/orcs.tbl\r\n"
               "Printed by Quenloft 1.0.0 2026-11-21 20:15:00");
-    EXPECT_EQ(ScriptExportText("A village.", "/lib/v.spt", "Quenloft 1.0.0", "2026-11-21 20:15:00"),
-              "A village.\r\n\r\nFilename : /lib/v.spt\r\n"
+    EXPECT_EQ(ScriptExportText("A village.", "v.spt", "Quenloft 1.0.0", "2026-11-21 20:15:00"),
+              "A village.\r\n\r\nFilename : v.spt\r\n"
               "Printed by Quenloft 1.0.0 2026-11-21 20:15:00");
 }
 

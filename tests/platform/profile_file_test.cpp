@@ -65,8 +65,8 @@ TEST_F(ProfileFileTest, CutsAKeyListThatDoesNotFit) {
         const std::string name(nameLength, 'k');
         return profile_.ReadProfileKeyList(folder_.Write("x.ini", "[s]\n" + name + "=1\n"), "s");
     };
-    EXPECT_EQ(keysOf(1022), std::string(1022, 'k') + '\0');
-    EXPECT_EQ(keysOf(1023), std::string(1022, 'k'));
+    EXPECT_EQ(keysOf(1021), std::string(1021, 'k') + '\0');
+    EXPECT_EQ(keysOf(1022), std::string(1022, 'k'));  // Would just fit.
     EXPECT_EQ(keysOf(3000), std::string(1022, 'k'));
 }
 
