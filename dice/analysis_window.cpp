@@ -60,7 +60,7 @@ void AnalysisWindow::Perform(const std::function<void(ReportLines&)>& work) {
     if (workspace_.IsRunning()) {
         return;
     }
-    ReportLines lines;
+    ReportLines lines(list_->Bytes());
     std::string failure;
     try {
         work(lines);
@@ -105,6 +105,9 @@ GoOn AnalysisWindow::Counter(const QCheckBox* box, QLabel* number) {
 }
 
 std::string AnalysisWindow::ChooseScript() {
+    if (workspace_.IsRunning()) {
+        return {};
+    }
     const ServiceSet& services = workspace_.Services();
     return services.dialogs
         .ChooseFileToOpen(kFilter, services.files.NativePath(services.files.CurrentDirectory()))
@@ -116,6 +119,9 @@ void AnalysisWindow::CopyList() {
 }
 
 void AnalysisWindow::SaveList() {
+    if (workspace_.IsRunning()) {
+        return;
+    }
     const ServiceSet& services = workspace_.Services();
     const auto path = services.dialogs.ChooseFileToSave(
         kFilter, services.files.NativePath(services.files.CurrentDirectory()), kTextFilter);

@@ -46,9 +46,11 @@ class AnalysisWindow : public ChildWindow {
     /// Shows the number of rolls done, at most 30 times a second; empty where `box` is unchecked.
     static GoOn Counter(const QCheckBox* box, QLabel* number);
 
-    /// The file of a configuration script that the user chooses; empty on Cancel.
+    /// The file of a configuration script that the user chooses; empty on Cancel, and without a
+    /// dialog while a run is going on anywhere.
     std::string ChooseScript();
     void CopyList();
+    /// Does nothing while a run is going on anywhere.
     void SaveList();
     void ClearList();
 

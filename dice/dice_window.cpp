@@ -50,7 +50,7 @@ void frmDice::Roll() {
     if (workspace_.IsRunning()) {
         return;
     }
-    ReportLines lines;
+    ReportLines lines(ui_->lstResults->Bytes());
     std::string result = TextOf(ui_->txtResult);
     std::string failure;
     try {

@@ -29,6 +29,7 @@ frmDrovemark::frmDrovemark(Workspace& workspace, Simulation& simulation)
     ui_->updWhite->Box()->setObjectName(QStringLiteral("txtWhite"));
     ui_->updRed->Box()->setObjectName(QStringLiteral("txtRed"));
     ui_->updBlack->Box()->setObjectName(QStringLiteral("txtBlack"));
+    ui_->txtRolls->MakeRoomForAnyNumber();
     setFocusProxy(ui_->updWhite);
     UseList(ui_->lstResult);
     ui_->lstResult->UseNarrowFirstColumn();

@@ -15,12 +15,15 @@ NumberBox::NumberBox(QWidget* parent) : QLineEdit(parent) {
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
 
-QSize NumberBox::sizeHint() const {
-    return RoomFor(*this, QLineEdit::sizeHint(), QStringLiteral("00000000"));
+void NumberBox::MakeRoomForAnyNumber() {
+    usual_ = shortest_ = QStringLiteral("0000000000");
+    updateGeometry();
 }
 
+QSize NumberBox::sizeHint() const { return RoomFor(*this, QLineEdit::sizeHint(), usual_); }
+
 QSize NumberBox::minimumSizeHint() const {
-    return RoomFor(*this, QLineEdit::minimumSizeHint(), QStringLiteral("0000"));
+    return RoomFor(*this, QLineEdit::minimumSizeHint(), shortest_);
 }
 
 }  // namespace quenloft

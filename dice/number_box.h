@@ -11,8 +11,15 @@ class NumberBox : public QLineEdit {
   public:
     explicit NumberBox(QWidget* parent = nullptr);
 
+    /// From now on any number of 32 bits is seen as a whole, however narrow the window.
+    void MakeRoomForAnyNumber();
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+
+  private:
+    QString usual_ = QStringLiteral("00000000");
+    QString shortest_ = QStringLiteral("0000");
 };
 
 }  // namespace quenloft

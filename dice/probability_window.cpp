@@ -69,7 +69,9 @@ void frmProbability::Start(const clsRoll& handful, std::int32_t rolls, ReportLin
                    .displayMin = TextOf(ui_->txtDisplayMin),
                    .displayUpto = TextOf(ui_->txtDisplayUpto)},
                   Counter(ui_->chkCounter, ui_->lblRolled), lines);
-        ui_->lblRolled->setText(QString::number(rolls));
+        if (ui_->chkCounter->isChecked() && rolls > 0) {
+            ui_->lblRolled->setText(QString::number(rolls));
+        }
     });
 }
 

@@ -12,10 +12,11 @@ constexpr std::size_t kLongestLine = std::size_t{16} << 20U;
 }  // namespace
 
 void ReportLines::Add(std::string line) {
-    bytes_ += sizeof(std::string) + line.size();
-    if (bytes_ > kMostBytes) {
+    const std::size_t bytes = bytes_ + BytesOf(line);
+    if (bytes > kMostBytes) {
         throw Failure(FailureNumber::OutOfMemory);
     }
+    bytes_ = bytes;
     lines_.push_back(std::move(line));
 }
 

@@ -10,8 +10,14 @@ namespace quenloft {
 
 class ReportLines {
   public:
-    /// Throws Failure "Out of memory" where the report would grow past what a machine holds; what
-    /// was added before stays.
+    /// `bytesHeld`: what the lines before this report take up, as by BytesOf.
+    explicit ReportLines(std::size_t bytesHeld = 0) : bytes_(bytesHeld) {}
+
+    /// What a line takes up, in bytes.
+    static std::size_t BytesOf(const std::string& line) { return sizeof(line) + line.size(); }
+
+    /// Throws Failure "Out of memory" where the report and the lines before it would grow past what
+    /// a machine holds; what was added before stays.
     void Add(std::string line);
     /// The same for a line that is still being written: throws where it is too long already.
     static void CheckLength(const std::string& line);
@@ -21,7 +27,7 @@ class ReportLines {
 
   private:
     std::vector<std::string> lines_;
-    std::size_t bytes_ = 0;
+    std::size_t bytes_;
 };
 
 }  // namespace quenloft

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "dice/report_lines.h"
 #include "platform/qt/qt_text.h"
 
 namespace quenloft {
@@ -102,6 +103,7 @@ int ResultModel::Add(std::vector<std::string> lines) {
     }
     for (std::size_t i = before; i < lines_.size(); ++i) {
         longest_ = lines_[i].size() > lines_[longest_].size() ? i : longest_;
+        bytes_ += ReportLines::BytesOf(lines_[i]);
     }
     endInsertRows();
     return first;
@@ -111,6 +113,7 @@ void ResultModel::Clear() {
     beginResetModel();
     lines_ = {};
     longest_ = 0;
+    bytes_ = 0;
     endResetModel();
 }
 

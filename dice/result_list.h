@@ -21,6 +21,8 @@ class ResultModel : public QAbstractListModel {
     int Add(std::vector<std::string> lines);
     void Clear();
     std::size_t Size() const { return lines_.size(); }
+    /// What the lines take up: for the ReportLines that are to be added.
+    std::size_t Bytes() const { return bytes_; }
     const std::string& Line(std::size_t row) const;
     /// The row of a line that is about as wide as the widest.
     int LongestRow() const;
@@ -36,6 +38,7 @@ class ResultModel : public QAbstractListModel {
     bool newestFirst_ = false;
     std::vector<std::string> lines_;  // In the order in which they were added.
     std::size_t longest_ = 0;         // Place of the longest.
+    std::size_t bytes_ = 0;
 };
 
 /// Tabs are columns that are wide enough for the headers in any font.
@@ -54,6 +57,7 @@ class ResultList : public QListView {
     /// Shows the lines, the first of them at the top as far as there is room.
     void Add(std::vector<std::string> lines);
     void Clear() { model_->Clear(); }
+    std::size_t Bytes() const { return model_->Bytes(); }
     /// From the top; "\r\n" between the lines.
     std::string Text() const;
     /// From the top; "\r\n" behind each line.

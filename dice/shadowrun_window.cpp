@@ -74,7 +74,9 @@ void frmShadowrunProbability::Start(const TargetPool& pool, ReportLines& lines) 
                    .increaseRandomness = ui_->chkIncreaseRandomness->isChecked(),
                    .showRolls = ui_->chkShowRolls->isChecked()},
                   Counter(ui_->chkCounter, ui_->lblRolled), counts_, lines);
-        ui_->lblRolled->setText(QString::number(pool.rolls));
+        if (ui_->chkCounter->isChecked() && pool.rolls > 0) {
+            ui_->lblRolled->setText(QString::number(pool.rolls));
+        }
     });
 }
 

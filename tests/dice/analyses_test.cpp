@@ -1,9 +1,15 @@
 #include "dice/analyses.h"
 
+#include <algorithm>
+#include <functional>
 #include <gtest/gtest.h>
 #include <regex>
 
+#include "dice/dice_round.h"
 #include "dice/simulation_on.h"
+#include "engine/dice.h"
+#include "engine/numbers.h"
+#include "tests/support/fake_host.h"
 #include "tests/support/fake_random.h"
 
 namespace quenloft {
@@ -65,6 +71,87 @@ TEST_F(Analyses, CountTotalsOfAHandful) {
     EXPECT_EQ(
         FailureOf([&] { RunTotals(simulation, handful, 4, {.displayUpto = "3e9"}, {}, lines); }),
         "Overflow");
+}
+
+TEST_F(Analyses, FindEveryTotalAboveANegativeEndOfTheRange) {
+    RunTotals(simulation, HandfulFromTexts({"0", "0", "1", "0", "0", "0", "0"}), 2,
+              {.displayMin = "0", .displayUpto = "-5"}, {}, lines);
+    EXPECT_EQ(TakeLines(),
+              (Lines{std::string(59, '-'), "1D6 rolled 2 times in N seconds",
+                     "Result\tOutcome\t% of Total\t\t% to get", "2 rolls result were above -5",
+                     "Highest roll result: 1", std::string(59, '-')}));
+}
+
+/// Writes down in which order the generator is reseeded and asked for dice.
+class RecordingRandom : public ConstantRandom {
+  public:
+    RecordingRandom() : ConstantRandom(0.5) {}
+    double Next() override {
+        log += "die ";
+        return ConstantRandom::Next();
+    }
+    void NextValues(std::span<double> values) override {
+        std::fill(values.begin(), values.end(), ConstantRandom::Next());
+    }
+    void ReseedFromTimer() override { log += "timer "; }
+    void Reseed(double number) override { log += NumberToText(number) + " "; }
+
+    std::string log;
+};
+
+TEST_F(Analyses, ReseedTheGeneratorInTheirOwnWays) {
+    RecordingRandom recorder;
+    SimulationOn<RandomSource> recorded(recorder);
+    FakeHost host;
+    Dice dice(recorder, host, [] { return true; });
+    clsRoll handful;
+    handful.FillValue("D6+D6");
+    std::string result;
+    // The entropy of a machine whose figures are all 0, mixed with the seed: (9 + seed) / 2 + 1.
+    const struct {
+        const char* what;
+        std::function<void()> run;
+        const char* log;
+    } cases[] = {
+        {"totals", [&] { RunTotals(recorded, handful, 3, {}, {}, lines); },
+         "timer die timer die timer die timer die timer die timer die "},
+        {"totals, increased: seed 3",
+         [&] { RunTotals(recorded, handful, 3, {.increaseRandomness = true}, {}, lines); },
+         "7 die 7 die 7 die 7 die 7 die 7 die "},
+        {"a target",
+         [&] {
+             RunTarget(recorded, {6, 1, 3, 5}, {}, {}, counts, lines);
+         },
+         "timer die timer die timer die "},
+        {"a target, increased: seed 3, and once before the first die",
+         [&] {
+             RunTarget(recorded, {6, 1, 3, 5}, {.increaseRandomness = true}, {}, counts, lines);
+         },
+         "7 7 die 7 die 7 die "},
+        {"colours: seed 0",
+         [&] { RunColours(recorded, {.white = 1, .rolls = 3}, {}, counts, lines); },
+         "5 die 5 die 5 die "},
+        {"the dice roller: once for each roll",
+         [&] {
+             RollTimes(dice, {"2", "6", "0", "2", false}, lines, result);
+         },
+         "timer die die timer die die "},
+    };
+    for (const auto& [what, run, log] : cases) {
+        recorder.log.clear();
+        run();
+        EXPECT_EQ(recorder.log, log) << what;
+    }
+}
+
+TEST_F(Analyses, HoldNoMoreLinesThanAMachineDoes) {
+    constexpr std::size_t kAll = std::size_t{512} << 20U;
+    ReportLines full(kAll - ReportLines::BytesOf("1") - ReportLines::BytesOf("2"));
+    full.Add("1");
+    EXPECT_EQ(FailureOf([&] { full.Add("too long"); }), "Out of memory");
+    full.Add("2");
+    EXPECT_EQ(FailureOf([&] { full.Add(""); }), "Out of memory");
+    EXPECT_EQ(full.Take(), (Lines{"1", "2"}));
 }
 
 TEST_F(Analyses, AddUpSuccessesFromRunToRun) {

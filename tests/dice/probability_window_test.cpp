@@ -39,6 +39,7 @@ TEST_F(ProbabilityWindow, AppendsAReportForEachRun) {
                                "50 results were below 3\r\nLowest roll result: 0\r\n" +
                                kDashes;
     EXPECT_EQ(Report(), report);
+    EXPECT_NE(Find<QLabel>("lblRolled")->text(), "50") << "nobody counts";
     Check("chkCounter");
     EXPECT_TRUE(Find<QLabel>("lblRolled")->isVisible());
     Click("cmdRoll");
@@ -112,6 +113,11 @@ TEST_F(ProbabilityWindow, CopiesAndSavesLinesWithTheirEnds) {
     EXPECT_EQ(folder.Read("report.txt"), whole);
     dialogs.WillCancel();
     Click("btnSaveResultTofile");
+    window.EnableAbort();
+    Click("btnSaveResultTofile");
+    Click("btnRollCfg");
+    window.DisableAbort();
+    EXPECT_EQ(dialogs.TakeLog().size(), 1U) << "no dialogs during a run";
     dialogs.WillGive(folder.Path("missing/report.txt"));
     dialogs.WillConfirm();
     Click("btnSaveResultTofile");

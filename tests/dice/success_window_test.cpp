@@ -59,6 +59,17 @@ TEST_F(ShadowrunWindow, RunsAScriptOfPools) {
                           kDashes + "\r\nScript ended NOW with 2 rolls in N seconds");
 }
 
+TEST_F(ShadowrunWindow, EndsAFailedScriptWithoutAWordAndKeepsItsLines) {
+    const std::string path = folder.Write(
+        "many.scr", "[Autorun]\nRolls=1\nDieFaces=6\nOpenEnded=0\n[Values]\nDice=301\nT=1\n");
+    dialogs.WillGive(path);
+    Click("btnRollCfg");
+    EXPECT_EQ(dialogs.TakeLog().size(), 1U) << "the choice of the script";
+    EXPECT_EQ(Caption("cmdRoll"), "Rolling... (disabled)");
+    EXPECT_TRUE(child->Export().starts_with("Script " + path + "\r\nstarted "));
+    EXPECT_TRUE(child->Export().ends_with("\r\n" + kDashes));
+}
+
 class DrovemarkWindow : public DiceWindowsFixture {
   protected:
     DrovemarkWindow() { Open(form::kDrovemark); }
