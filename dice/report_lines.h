@@ -14,7 +14,9 @@ class ReportLines {
     explicit ReportLines(std::size_t bytesHeld = 0) : bytes_(bytesHeld) {}
 
     /// What a line takes up, in bytes.
-    static std::size_t BytesOf(const std::string& line) { return sizeof(line) + line.size(); }
+    static std::size_t BytesOf(const std::string& line) {
+        return sizeof(std::string) + line.size();
+    }
 
     /// Throws Failure "Out of memory" where the report and the lines before it would grow past what
     /// a machine holds; what was added before stays.
