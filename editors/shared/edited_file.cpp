@@ -1,0 +1,98 @@
+#include "editors/shared/edited_file.h"
+
+#include "editors/shared/text_form.h"
+#include "platform/dialogs.h"
+#include "platform/file_system.h"
+
+namespace quenloft {
+
+EditedFile::EditedFile(FileSystem& files, Dialogs& dialogs) : files_(files), dialogs_(dialogs) {}
+
+std::string EditedFile::Name() const { return path_.substr(path_.rfind('/') + 1); }
+
+std::string EditedFile::Folder() const {
+    return path_.empty() ? files_.NativePath(files_.CurrentDirectory())
+                         : path_.substr(0, path_.rfind('/') + 1);
+}
+
+std::string EditedFile::Read(const std::string& path) {
+    files_.LookAgain();
+    std::string bytes = files_.ReadBytes(path);
+    path_ = files_.NativePath(path);
+    bytes_ = std::move(bytes);
+    encoding_ = DetectEncoding(bytes_);
+    return TextOfBytes(bytes_);
+}
+
+void EditedFile::Forget() {
+    path_.clear();
+    bytes_.clear();
+    encoding_ = TextEncoding::Windows1252;
+}
+
+bool EditedFile::SaveLines(const std::string& path, std::string_view lines) {
+    if (!MayWriteOver(path)) {
+        return false;
+    }
+    if (auto bytes = BytesOfText(lines, bytes_, encoding_)) {
+        return Write(path, std::move(*bytes), Former::Replace);
+    }
+    return AllowsUtf8(path) && Write(path, Utf8BytesOfText(lines, bytes_), Former::Replace);
+}
+
+bool EditedFile::SaveWhole(const std::string& path, std::string_view text, Former former) {
+    if (!MayWriteOver(path)) {
+        return false;
+    }
+    if (auto bytes = EncodeText(text, encoding_)) {
+        return Write(path, std::move(*bytes), former);
+    }
+    return AllowsUtf8(path) && Write(path, std::string(text), former);
+}
+
+bool EditedFile::MayWriteOver(const std::string& path) {
+    files_.LookAgain();
+    const std::string nativePath = files_.NativePath(path);
+    if (nativePath != path_) {
+        return true;  // The user chose it in the file dialog, which asks.
+    }
+    try {
+        return files_.ReadBytes(path) == bytes_ ||
+               dialogs_.AskYesNo("The file " + nativePath +
+                                 " was changed by another program since it was read. "
+                                 "Save over these changes?") == Answer::Yes;
+    } catch (const FileError&) {
+        return true;  // It is gone, or writing will tell what is wrong with it.
+    }
+}
+
+bool EditedFile::AllowsUtf8(const std::string& path) {
+    return dialogs_.AskYesNo("The text for " + files_.NativePath(path) +
+                             " holds characters that Windows-1252 lacks. Save it as UTF-8?") ==
+           Answer::Yes;
+}
+
+bool EditedFile::Write(const std::string& path, std::string bytes, Former former) {
+    try {
+        if (former == Former::Keep) {
+            KeepFormer(path);
+        }
+        files_.WriteBytes(path, bytes);
+    } catch (const FileError& error) {
+        dialogs_.ShowMessage(std::string(error.what()) + ".", MessageIcon::Warning);
+        return false;
+    }
+    files_.LookAgain();
+    path_ = files_.NativePath(path);
+    bytes_ = std::move(bytes);
+    encoding_ = DetectEncoding(bytes_);
+    return true;
+}
+
+void EditedFile::KeepFormer(const std::string& path) {
+    if (files_.FileExists(path)) {
+        files_.WriteBytes(files_.NativePath(path) + "~", files_.ReadBytes(path));
+    }
+}
+
+}  // namespace quenloft

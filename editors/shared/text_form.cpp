@@ -1,0 +1,182 @@
+#include "editors/shared/text_form.h"
+
+#include <algorithm>
+#include <array>
+#include <vector>
+
+namespace quenloft {
+namespace {
+
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+constexpr std::string_view kDefaultLineEnd = "\r\n";
+
+struct RawLine {
+    std::string_view bytes;
+    std::string_view end;  // Empty in the last line, and only there.
+};
+
+std::string_view LineEndAt(std::string_view bytes, std::size_t place) {
+    const bool isPair =
+        bytes[place] == '\r' && place + 1 < bytes.size() && bytes[place + 1] == '\n';
+    return bytes.substr(place, isPair ? 2 : 1);
+}
+
+std::string_view MarkOf(std::string_view bytes) {
+    return bytes.substr(0, bytes.starts_with(kByteOrderMark) ? kByteOrderMark.size() : 0);
+}
+
+std::vector<RawLine> RawLines(std::string_view bytes) {
+    bytes.remove_prefix(MarkOf(bytes).size());
+    std::vector<RawLine> lines;
+    for (;;) {
+        const std::size_t place = bytes.find_first_of("\r\n");
+        if (place == bytes.npos) {
+            lines.push_back({bytes, {}});
+            return lines;
+        }
+        const std::string_view end = LineEndAt(bytes, place);
+        lines.push_back({bytes.substr(0, place), end});
+        bytes.remove_prefix(place + end.size());
+    }
+}
+
+std::vector<std::string_view> TextLines(std::string_view text) {
+    std::vector<std::string_view> lines;
+    for (;;) {
+        const std::size_t place = text.find('\n');
+        lines.push_back(text.substr(0, place));
+        if (place == text.npos) {
+            return lines;
+        }
+        text.remove_prefix(place + 1);
+    }
+}
+
+bool Reads(const RawLine& raw, std::string_view line) {
+    return raw.bytes == line ? IsUtf8(line) : DecodeText(raw.bytes) == line;
+}
+
+std::string_view CommonLineEnd(const std::vector<RawLine>& lines) {
+    constexpr std::array<std::string_view, 3> kEnds{kDefaultLineEnd, "\n", "\r"};
+    const auto count = [&lines](std::string_view end) {
+        return std::ranges::count(lines, end, &RawLine::end);
+    };
+    return *std::ranges::max_element(kEnds, {}, count);
+}
+
+// Where the lines of a text and those of the file's former content are the same.
+struct Comparison {
+    std::vector<std::string_view> lines;
+    std::vector<RawLine> raw;
+    std::size_t sameAtStart = 0;
+    std::size_t sameAtEnd = 0;
+};
+
+Comparison Compare(std::string_view text, std::string_view former) {
+    Comparison result{TextLines(text), RawLines(former)};
+    const auto& lines = result.lines;
+    const auto& raw = result.raw;
+    const std::size_t most = std::min(lines.size(), raw.size());
+    while (result.sameAtEnd < most && Reads(raw[raw.size() - 1 - result.sameAtEnd],
+                                            lines[lines.size() - 1 - result.sameAtEnd])) {
+        ++result.sameAtEnd;
+    }
+    // The last lines have no end, so they are compared with each other only.
+    const std::size_t mostAtStart = std::min(most - result.sameAtEnd, most - 1);
+    while (result.sameAtStart < mostAtStart &&
+           Reads(raw[result.sameAtStart], lines[result.sameAtStart])) {
+        ++result.sameAtStart;
+    }
+    return result;
+}
+
+const RawLine* FormerLine(const Comparison& comparison, std::size_t index) {
+    if (index < comparison.sameAtStart) {
+        return &comparison.raw[index];
+    }
+    const std::size_t fromEnd = comparison.lines.size() - index;
+    return fromEnd <= comparison.sameAtEnd ? &comparison.raw[comparison.raw.size() - fromEnd]
+                                           : nullptr;
+}
+
+bool HasHighBytes(std::string_view bytes) {
+    return std::ranges::any_of(bytes, [](char byte) { return static_cast<signed char>(byte) < 0; });
+}
+
+std::optional<std::string> EncodeLine(std::string_view line, TextEncoding encoding) {
+    if (encoding == TextEncoding::Utf8) {
+        return std::string(line);
+    }
+    std::optional<std::string> bytes = ToWindows1252(line);
+    if (bytes && HasHighBytes(*bytes) && IsUtf8(*bytes)) {
+        return std::nullopt;
+    }
+    return bytes;
+}
+
+}  // namespace
+
+std::string TextOfBytes(std::string_view bytes) {
+    std::string text;
+    text.reserve(bytes.size());
+    for (const RawLine& line : RawLines(bytes)) {
+        text += DecodeText(line.bytes);
+        if (!line.end.empty()) {
+            text += '\n';
+        }
+    }
+    return text;
+}
+
+std::optional<std::string> BytesOfText(std::string_view text, std::string_view former,
+                                       TextEncoding encoding) {
+    const Comparison comparison = Compare(text, former);
+    const std::string_view newEnd = CommonLineEnd(comparison.raw);
+    std::string bytes(MarkOf(former));
+    for (std::size_t i = 0; i < comparison.lines.size(); ++i) {
+        if (const RawLine* same = FormerLine(comparison, i)) {
+            bytes.append(same->bytes).append(same->end);
+            continue;
+        }
+        const auto line = EncodeLine(comparison.lines[i], encoding);
+        if (!line) {
+            return std::nullopt;
+        }
+        bytes.append(*line).append(i + 1 < comparison.lines.size() ? newEnd : std::string_view());
+    }
+    return bytes;
+}
+
+std::string Utf8BytesOfText(std::string_view text, std::string_view former) {
+    const Comparison comparison = Compare(text, former);
+    const std::string_view newEnd = CommonLineEnd(comparison.raw);
+    std::string bytes(MarkOf(former));
+    for (std::size_t i = 0; i < comparison.lines.size(); ++i) {
+        const RawLine* same = FormerLine(comparison, i);
+        const bool isLast = i + 1 == comparison.lines.size();
+        bytes.append(comparison.lines[i]);
+        bytes.append(same ? same->end : isLast ? std::string_view() : newEnd);
+    }
+    return bytes;
+}
+
+std::optional<std::string> EncodeText(std::string_view utf8, TextEncoding encoding) {
+    std::string bytes;
+    for (std::string_view rest = utf8; !rest.empty();) {
+        const std::size_t place = rest.find('\n');
+        const std::string_view line = rest.substr(0, place);
+        const auto encoded = EncodeLine(line, encoding);
+        if (!encoded) {
+            return std::nullopt;
+        }
+        bytes += *encoded;
+        if (place == rest.npos) {
+            break;
+        }
+        bytes += '\n';
+        rest.remove_prefix(place + 1);
+    }
+    return bytes;
+}
+
+}  // namespace quenloft
