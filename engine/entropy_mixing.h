@@ -25,19 +25,13 @@ inline double FastFloor(double number) {
 /// taken from it. `Source` is RandomSource or a class derived from it.
 template <typename Source>
 bool MixEntropyInto(Source& random, double seed) {
-    const MachineFigures machine = random.Machine();
+    const MachineFigures& machine = random.Machine();
     const MemoryFigures& memory = machine.memory;
     const std::array figures = {
         machine.tickCount,       memory.availablePageFile, memory.availablePhysical,
         memory.availableVirtual, memory.structureLength,   memory.memoryLoad,
         memory.totalPageFile,    memory.totalPhysical,     memory.totalVirtual};
-    std::array<double, figures.size() + 1> values{};
-    random.NextValues(values);
-    double sum = 0;
-    for (std::size_t i = 0; i < figures.size(); ++i) {
-        sum += FastFloor(values[i] * figures[i]) + 1;
-    }
-    const double number = FastFloor((sum + seed) * values.back() + 1);
+    const double number = FastFloor(random.DrawMixed(figures, seed) + 1);
     if (!std::isfinite(number)) {
         return false;
     }

@@ -2,6 +2,7 @@
 // folded into it. A test hands the engine a scripted one and so decides every roll.
 #pragma once
 
+#include <cmath>
 #include <cstdint>
 #include <span>
 
@@ -10,7 +11,7 @@ namespace quenloft {
 /// The machine's memory as it is now. All figures in bytes, except as noted.
 struct MemoryFigures {
     double structureLength = 0;  ///< Size of the record that the system fills, in bytes.
-    double memoryLoad = 0;       ///< Physical memory in use, in percent (0 to 100).
+    double memoryLoad = 0;       ///< Physical memory in use, in whole percent.
     double totalPhysical = 0;
     double availablePhysical = 0;
     double totalPageFile = 0;  ///< Physical memory and swap together.
@@ -31,11 +32,14 @@ class RandomSource {
 
     /// The next value, uniform with 53 random bits: 0 <= value < 1.
     virtual double Next() = 0;
-    /// The next values, one for each element.
-    virtual void NextValues(std::span<double> values) {
-        for (double& value : values) {
-            value = Next();
+    /// (s + `seed`) * next, where s is the sum of Int(next * figure) + 1 over `figures` (whole
+    /// numbers from 0 to 2^63), with a fresh next value each time; Int is the floor.
+    virtual double DrawMixed(std::span<const double> figures, double seed) {
+        double sum = 0;
+        for (const double figure : figures) {
+            sum += std::floor(Next() * figure) + 1;
         }
+        return (sum + seed) * Next();
     }
     /// Folds the timer's present reading into the running state. The state is never replaced: a
     /// generator restarted from a clock would give equal rolls within one of its ticks.

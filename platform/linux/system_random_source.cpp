@@ -31,9 +31,10 @@ void SystemRandomSource::ReadMemory(MemoryFigures& memory) {
     memory.availablePageFile = memory.availablePhysical + static_cast<double>(info.freeswap) * unit;
     memory.totalVirtual = kAddressSpace;
     memory.availableVirtual = kAddressSpace - (memory.totalPhysical - memory.availablePhysical);
-    memory.memoryLoad = memory.totalPhysical > 0
-                            ? 100.0 * (1.0 - memory.availablePhysical / memory.totalPhysical)
-                            : 0.0;
+    memory.memoryLoad =
+        memory.totalPhysical > 0
+            ? std::floor(100.0 * (1.0 - memory.availablePhysical / memory.totalPhysical))
+            : 0.0;
 }
 
 }  // namespace quenloft

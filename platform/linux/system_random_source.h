@@ -57,14 +57,21 @@ class SystemRandomSource final : public RandomSource {
     SystemRandomSource();
 
     double Next() override { return FromBits(generator_()); }
-    void NextValues(std::span<double> values) override {
-        const std::size_t even = values.size() / 2 * 2;
-        generator_.Generate(even, [values](std::size_t place, std::uint64_t bits) {
-            values[place] = FromBits(bits);
+    double DrawMixed(std::span<const double> figures, double seed) override {
+        // Each output serves two figures: half its bits are plenty for what is only entropy.
+        constexpr int kHalf = 32;
+        constexpr std::uint64_t kUpperHalf = 0xFFFFFFFF00000000U;
+        std::uint64_t sum = figures.size();
+        const std::size_t fours = figures.size() / 4 * 4;
+        generator_.Generate(fours / 2, [&](std::size_t place, std::uint64_t bits) {
+            sum += Part(figures[2 * place], bits & kUpperHalf);
+            sum += Part(figures[2 * place + 1], bits << kHalf);
         });
-        if (even < values.size()) {
-            values[even] = SystemRandomSource::Next();
+        for (const double figure : figures.subspan(fours)) {
+            sum += Part(figure, generator_());
         }
+        return (static_cast<double>(static_cast<std::int64_t>(sum)) + seed) *
+               SystemRandomSource::Next();
     }
     void ReseedFromTimer() override { generator_.Fold(TimerReading()); }
     void Reseed(double number) override { generator_.Fold(std::bit_cast<std::uint64_t>(number)); }
@@ -76,6 +83,13 @@ class SystemRandomSource final : public RandomSource {
     static double FromBits(std::uint64_t bits) {
         constexpr double kScale = 1.0 / 9007199254740992.0;  // 2^-53: all that a double resolves.
         return static_cast<double>(bits >> 11U) * kScale;
+    }
+    /// Int(next * figure), where next is `bits` as a fraction of 2^64.
+    static std::uint64_t Part(double figure, std::uint64_t bits) {
+        const pcg_extras::pcg128_t product =
+            pcg_extras::pcg128_t(bits) *
+            static_cast<std::uint64_t>(static_cast<std::int64_t>(figure));
+        return static_cast<std::uint64_t>(product >> 64);
     }
     /// Nanoseconds; moves on with the kernel's tick (every 1 to 10 ms) and costs a few nanoseconds.
     static std::uint64_t TimerReading() {

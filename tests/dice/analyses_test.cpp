@@ -90,8 +90,8 @@ class RecordingRandom : public ConstantRandom {
         log += "die ";
         return ConstantRandom::Next();
     }
-    void NextValues(std::span<double> values) override {
-        std::fill(values.begin(), values.end(), ConstantRandom::Next());
+    double DrawMixed(std::span<const double> figures, double seed) override {
+        return ConstantRandom().DrawMixed(figures, seed) + (9 + seed) / 2;
     }
     void ReseedFromTimer() override { log += "timer "; }
     void Reseed(double number) override { log += NumberToText(number) + " "; }
