@@ -1,0 +1,127 @@
+// Takes a picture of each window of the program, to be looked at after a change of how it looks:
+//
+//   window_pictures FOLDER [light|dark] [POINTS]
+//
+// writes FOLDER/frmExplorer.png and so on, with the sample library, in a light or dark palette and
+// a font of POINTS. QT_SCALE_FACTOR=1.5 in the environment scales everything. Needs no screen.
+#include <QApplication>
+#include <QDir>
+#include <QFontInfo>
+#include <QStyleFactory>
+#include <QTest>
+#include <cstdio>
+#include <map>
+#include <string_view>
+
+#include "engine/engine.h"
+#include "platform/linux/linux_file_system.h"
+#include "platform/linux/linux_profile_file.h"
+#include "platform/linux/system_random_source.h"
+#include "platform/qt/qt_text.h"
+#include "shell/child_window.h"
+#include "shell/form_names.h"
+#include "shell/main_window.h"
+#include "shell/program_icon.h"
+#include "shell/qt_engine_host.h"
+#include "shell/settings_dialog.h"
+#include "shell/window_kinds.h"
+#include "tests/support/fake_devices.h"
+#include "tests/support/fake_dialogs.h"
+#include "tests/support/temp_folder.h"
+
+namespace quenloft {
+namespace {
+
+QPalette DarkPalette() {
+    const QColor window(45, 45, 48);
+    const QColor base(30, 30, 30);
+    const QColor text(230, 230, 230);
+    const QColor faint(140, 140, 140);
+    QPalette palette(window, window);
+    palette.setColor(QPalette::Base, base);
+    palette.setColor(QPalette::AlternateBase, window);
+    palette.setColor(QPalette::ToolTipBase, window);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
+                            QPalette::ToolTipText, QPalette::BrightText}) {
+        palette.setColor(role, text);
+        palette.setColor(QPalette::Disabled, role, faint);
+    }
+    palette.setColor(QPalette::PlaceholderText, faint);
+    palette.setColor(QPalette::Highlight, QColor(38, 100, 170));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Link, QColor(110, 170, 255));
+    return palette;
+}
+
+/// What each window shows in its picture; the others stay as they open.
+const std::map<std::string_view, const char*> kFiles = {
+    {form::kSingleList, "/Tonight.tbl"},
+    {form::kEditTable, "/Tonight.tbl"},
+    {form::kScript, "/Scripts/Village.spt"},
+    {form::kEdit, "/Scripts/Village.spt"},
+};
+
+void TakePictures(const QDir& folder) {
+    LinuxFileSystem files;
+    const std::string library = QUENLOFT_LIBRARY;
+    const TempFolder state;
+    state.Write("quenloft.INI", "[Settings]\r\nLibpath=" + library + "\r\n");
+    LinuxProfileFile profile(files, state.Path("quenloft"), state.Path("config"));
+    SystemRandomSource random;
+    FakeDialogs dialogs;
+    FakeClipboard clipboard;
+    FakePrinter printer;
+    FakeDesktop desktop;
+    QtEngineHost host(dialogs);
+    Engine engine(files, random, host);
+    const std::vector<WindowKind> kinds = MakeWindowKinds(random);
+    const ServiceSet services{engine, host, files, profile, dialogs, clipboard, printer, desktop};
+    frmMain window(services, kinds);
+    window.resize(1280, 800);
+    window.StartUp();
+    const auto save = [&](QWidget& widget, const QString& name) {
+        QTest::qWait(200);
+        widget.grab().save(folder.filePath(name + QLatin1String(".png")));
+    };
+    for (const WindowKind& kind : kinds) {
+        window.CloseAll();
+        ChildWindow* child = window.Open(kind.formName);
+        if (const auto file = kFiles.find(kind.formName); file != kFiles.end()) {
+            child->Load(library + file->second);
+        }
+        if (kind.formName == std::string_view(form::kSingleList) ||
+            kind.formName == std::string_view(form::kScript)) {
+            child->Run();
+        }
+        save(window, QLatin1String(kind.formName));
+    }
+    FontSettings fonts;
+    frmSettings settings(services, fonts, &window);
+    settings.show();
+    save(settings, QStringLiteral("frmSettings"));
+}
+
+}  // namespace
+}  // namespace quenloft
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    if (argc < 2) {
+        std::fputs("usage: window_pictures FOLDER [light|dark] [POINTS]\n", stderr);
+        return 2;
+    }
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("fusion")));
+    QApplication::setWindowIcon(quenloft::ProgramIcon());
+    if (argc > 2 && std::string_view(argv[2]) == "dark") {
+        QApplication::setPalette(quenloft::DarkPalette());
+    }
+    if (argc > 3) {
+        QFont font = QApplication::font();
+        font.setPointSizeF(QString::fromLatin1(argv[3]).toDouble());
+        QApplication::setFont(font);
+    }
+    QDir().mkpath(QString::fromLocal8Bit(argv[1]));
+    quenloft::TakePictures(QDir(QString::fromLocal8Bit(argv[1])));
+    return 0;
+}
