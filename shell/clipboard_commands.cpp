@@ -123,7 +123,7 @@ void PasteText(QWidget* control, const QString& text) {
         }
     } else if (auto* box = qobject_cast<QPlainTextEdit*>(control)) {
         if (!box->isReadOnly()) {
-            box->insertPlainText(text);
+            InsertText(*box, text);
         }
     } else if (auto* rich = qobject_cast<QTextEdit*>(control)) {
         if (!rich->isReadOnly()) {

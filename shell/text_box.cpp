@@ -1,90 +1,41 @@
 #include "shell/text_box.h"
 
+#include <QKeyEvent>
 #include <QMimeData>
 #include <QTextBlock>
-#include <vector>
 
 #include "platform/qt/qt_text.h"
+#include "shell/document_text.h"
 
 namespace quenloft {
 namespace {
 
-// Laying out a word takes a time that grows with the square of its length: one of a million letters
-// would hold up the program for minutes. So longer lines stand in several blocks, which are marked
-// and become one line again on their way out.
-constexpr qsizetype kLongestBlock = 4096;
-constexpr int kGoesOn = 1;  // State of a block that goes on with the line of the block before it.
-
-// The end of the next piece of `text`: behind a line feed, or else behind the last blank.
-qsizetype PieceLength(QStringView text) {
-    const QStringView head = text.left(kLongestBlock);
-    const qsizetype feed = head.indexOf(u'\n');
-    if (feed >= 0) {
-        return feed + 1;
-    }
-    const qsizetype blank = head.lastIndexOf(u' ');
-    if (blank >= 0) {
-        return blank + 1;
-    }
-    return head.back().isHighSurrogate() ? head.size() - 1 : head.size();
-}
-
-// Breaks the long lines of `text` by line feeds and returns the places behind these.
-std::vector<int> BreakLongLines(QString& text) {
-    std::vector<int> places;
-    QString broken;
-    QStringView rest(text);
-    while (rest.size() > kLongestBlock) {
-        const QStringView piece = rest.left(PieceLength(rest));
-        broken += piece;
-        if (!piece.endsWith(u'\n')) {
-            broken += u'\n';
-            places.push_back(static_cast<int>(broken.size()));
-        }
-        rest = rest.mid(piece.size());
-    }
-    if (!places.empty()) {
-        broken += rest;
-        text = broken;
-    }
-    return places;
-}
-
-// In one piece: each piece costs a time that grows with the document.
-void Insert(QTextCursor& cursor, QString text) {
-    text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
-    text.replace(u'\r', u'\n');
-    const std::vector<int> breaks = BreakLongLines(text);
-    const int start = cursor.position();
-    cursor.insertText(text);
-    for (const int place : breaks) {
-        cursor.document()->findBlock(start + place).setUserState(kGoesOn);
-    }
-}
-
-// Block by block: the document's own functions turn no-break spaces into blanks.
-QString TextBetween(const QTextDocument& document, int start, int end, QLatin1String lineBreak) {
-    QString text;
-    for (QTextBlock block = document.findBlock(start); block.isValid() && block.position() <= end;
-         block = block.next()) {
-        const bool isFirst = block.position() <= start;
-        if (!isFirst && block.userState() != kGoesOn) {
-            text += lineBreak;
-        }
-        const int from = isFirst ? start - block.position() : 0;
-        text += QStringView(block.text()).mid(from, end - block.position() - from);
-    }
-    return text;
-}
-
 QString Selection(const QPlainTextEdit& box, QLatin1String lineBreak) {
     const QTextCursor cursor = box.textCursor();
-    return TextBetween(*box.document(), cursor.selectionStart(), cursor.selectionEnd(), lineBreak);
+    return cursor.hasSelection() ? TextBetween(*box.document(), cursor.selectionStart(),
+                                               cursor.selectionEnd(), lineBreak)
+                                 : QString();
+}
+
+// Where a line goes on in the next block, two characters stand between its two sides: the one that
+// says so, and the end of the block.
+constexpr int kBreakLength = 2;
+
+bool IsBeforeBreak(const QTextCursor& cursor) {
+    return GoesOn(cursor.block()) &&
+           cursor.positionInBlock() == cursor.block().length() - kBreakLength;
+}
+
+bool IsBehindBreak(const QTextCursor& cursor) {
+    return cursor.atBlockStart() && IsContinued(cursor.block());
 }
 
 }  // namespace
 
-TextBox::TextBox(QWidget* parent) : QPlainTextEdit(parent) { setTabChangesFocus(true); }
+TextBox::TextBox(QWidget* parent) : QPlainTextEdit(parent) {
+    setTabChangesFocus(true);
+    connect(this, &QPlainTextEdit::cursorPositionChanged, this, &TextBox::KeepCaretOffBreaks);
+}
 
 std::string TextBox::Text() const { return WholeText(*this); }
 
@@ -99,7 +50,7 @@ void TextBox::AppendText(std::string_view text) {
     setUndoRedoEnabled(false);
     QTextCursor end(document());
     end.movePosition(QTextCursor::End);
-    Insert(end, ToQt(text));
+    InsertText(end, ToQt(text));
     setUndoRedoEnabled(true);
 }
 
@@ -113,13 +64,59 @@ bool TextBox::canInsertFromMimeData(const QMimeData* source) const {
     return source->hasText() && !source->hasUrls();
 }
 
+void TextBox::insertFromMimeData(const QMimeData* source) { InsertText(*this, source->text()); }
+
+void TextBox::keyPressEvent(QKeyEvent* event) {
+    if (StepOverBreak(*event)) {
+        event->accept();
+        return;
+    }
+    QPlainTextEdit::keyPressEvent(event);
+}
+
+// What were typed between the two characters of a break would end the line there.
+void TextBox::KeepCaretOffBreaks() {
+    QTextCursor cursor = textCursor();
+    if (cursor.atBlockEnd() && GoesOn(cursor.block())) {
+        cursor.movePosition(QTextCursor::PreviousCharacter, cursor.hasSelection()
+                                                                ? QTextCursor::KeepAnchor
+                                                                : QTextCursor::MoveAnchor);
+        setTextCursor(cursor);
+    }
+}
+
+// The caret goes over a break with one key, and no key deletes one instead of a letter. True when
+// nothing else remains to be done.
+bool TextBox::StepOverBreak(const QKeyEvent& event) {
+    QTextCursor cursor = textCursor();
+    const int key = event.key();
+    const bool moves = key == Qt::Key_Left || key == Qt::Key_Right;
+    const bool deletes =
+        (key == Qt::Key_Backspace || key == Qt::Key_Delete) && !cursor.hasSelection();
+    const bool forwards = key == Qt::Key_Right || key == Qt::Key_Delete;
+    if ((!moves && !deletes) || !(forwards ? IsBeforeBreak(cursor) : IsBehindBreak(cursor))) {
+        return false;
+    }
+    const bool selects = moves && event.modifiers().testFlag(Qt::ShiftModifier);
+    cursor.setPosition(cursor.position() + (forwards ? kBreakLength : -kBreakLength),
+                       selects ? QTextCursor::KeepAnchor : QTextCursor::MoveAnchor);
+    setTextCursor(cursor);
+    return moves;
+}
+
 std::string SelectedText(const QPlainTextEdit& box) {
     return FromQt(Selection(box, QLatin1String("\r\n")));
 }
 
 std::string WholeText(const QPlainTextEdit& box) {
-    const QTextDocument& document = *box.document();
-    return FromQt(TextBetween(document, 0, document.characterCount() - 1, QLatin1String("\r\n")));
+    return FromQt(WholeText(*box.document(), QLatin1String("\r\n")));
+}
+
+void InsertText(QPlainTextEdit& box, const QString& text) {
+    QTextCursor cursor = box.textCursor();
+    InsertText(cursor, text);
+    box.setTextCursor(cursor);
+    box.ensureCursorVisible();
 }
 
 }  // namespace quenloft

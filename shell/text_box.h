@@ -8,7 +8,8 @@
 namespace quenloft {
 
 /// Text goes in and comes out as UTF-8, to the character (no-break spaces too), and out of it with
-/// CR LF between the lines. Copies carry no formatting; files dropped here are left to the window.
+/// CR LF between the lines. Lines may be of any length (see shell/document_text.h). Copies carry no
+/// formatting; files dropped here are left to the window.
 class TextBox : public QPlainTextEdit {
     Q_OBJECT
 
@@ -25,11 +26,19 @@ class TextBox : public QPlainTextEdit {
   protected:
     QMimeData* createMimeDataFromSelection() const override;
     bool canInsertFromMimeData(const QMimeData* source) const override;
+    void insertFromMimeData(const QMimeData* source) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+  private:
+    void KeepCaretOffBreaks();
+    bool StepOverBreak(const QKeyEvent& event);
 };
 
 /// The selected part of any plain text box, as UTF-8 with CR LF; empty without a selection.
 std::string SelectedText(const QPlainTextEdit& box);
 /// All of any plain text box, likewise.
 std::string WholeText(const QPlainTextEdit& box);
+/// As if the user had pasted `text` into `box`: in the place of the selection, one step to undo.
+void InsertText(QPlainTextEdit& box, const QString& text);
 
 }  // namespace quenloft

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QMimeData>
+#include <QTest>
 #include <QTextBlock>
 #include <gtest/gtest.h>
 
@@ -45,6 +46,82 @@ TEST(TextBox, LongWordsDoNotHoldUpTheProgram) {
     box.SetText(std::string(1'000'000, 'x'));
     QCoreApplication::processEvents();
     EXPECT_LT(box.document()->firstBlock().length(), 5'000);
+}
+
+TEST(TextBox, KeepsCharactersThatTheDocumentHasUsesFor) {
+    TextBox box;
+    const QString text =
+        QString::fromUtf16(u"a\u2029b\u2028c\uFDD0\uFDD1d\u206F\uFFFCe\U00010000") + QChar(u'\0') +
+        QString(5000, QChar(0x206F));
+    box.SetText(text.toStdString());
+    EXPECT_EQ(QString::fromStdString(box.Text()), text);
+    EXPECT_EQ(box.document()->blockCount(), 2);
+}
+
+// Lines of any length stay one line, whatever is done where they are broken.
+TEST(TextBox, EditsLongLinesAsOne) {
+    TextBox box;
+    const QString line = QString(4096, 'x') + QString(4096, 'y') + "z\nend";
+    const auto text = [&box] { return QString::fromStdString(box.Text()).remove('\r'); };
+    const auto edit = [&](int position, auto... keys) {
+        box.SetText(line.toStdString());
+        QTextCursor cursor = box.textCursor();
+        cursor.setPosition(position);
+        box.setTextCursor(cursor);
+        (QTest::keyClick(&box, keys), ...);
+        const QString edited = text();
+        box.document()->undo();
+        EXPECT_EQ(text(), line);
+        box.document()->redo();
+        EXPECT_EQ(text(), edited);
+        return edited;
+    };
+    EXPECT_EQ(edit(1, Qt::Key_End, Qt::Key_Q), QString(line).insert(4096, 'q'));
+    EXPECT_EQ(edit(4096, Qt::Key_Right, Qt::Key_Q), QString(line).insert(4096, 'q'));
+    EXPECT_EQ(edit(4098, Qt::Key_Left, Qt::Key_Q), QString(line).insert(4096, 'q'));
+    EXPECT_EQ(edit(4098, Qt::Key_Return), QString(line).insert(4096, '\n'));
+    EXPECT_EQ(edit(4096, Qt::Key_Return), QString(line).insert(4096, '\n'));
+    EXPECT_EQ(edit(4098, Qt::Key_Backspace), QString(line).remove(4095, 1));
+    EXPECT_EQ(edit(4096, Qt::Key_Delete), QString(line).remove(4096, 1));
+}
+
+TEST(TextBox, CutsAndPastesAnyPartOfLongLines) {
+    TextBox box;
+    const QString line = "first\n" + QString(4096, 'x') + QString(4096, 'y') + "z\nend";
+    const int starts[] = {0, 5, 6, 7, 4102, 4103, 4104, 4105};
+    for (const int start : starts) {
+        for (const int length : {1, 2, 3, 4096, 4098, 8195}) {
+            box.SetText(line.toStdString());
+            QTextCursor cursor = box.textCursor();
+            cursor.setPosition(start);
+            cursor.setPosition(qMin(start + length, box.document()->characterCount() - 1),
+                               QTextCursor::KeepAnchor);
+            box.setTextCursor(cursor);
+            if (!box.textCursor().hasSelection()) {
+                continue;  // Nothing but the place where the line is broken.
+            }
+            box.cut();
+            box.paste();
+            EXPECT_TRUE(QString::fromStdString(box.Text()).remove('\r') == line)
+                << start << " " << length;
+        }
+    }
+}
+
+TEST(TextBox, NothingPastedMakesABlockTooLong) {
+    TextBox box;
+    QString expected = "[]";
+    box.SetText(expected.toStdString());
+    box.moveCursor(QTextCursor::Right);
+    for (int i = 0; i < 20; ++i) {
+        const QString piece(3000, QChar('a' + i));
+        InsertText(box, piece);
+        expected.insert(expected.size() - 1, piece);
+    }
+    EXPECT_EQ(box.Text(), expected.toStdString());
+    for (QTextBlock block = box.document()->begin(); block.isValid(); block = block.next()) {
+        EXPECT_LT(block.length(), 9'000);
+    }
 }
 
 TEST(TextBox, CopiesPlainTextOnly) {

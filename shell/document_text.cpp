@@ -1,0 +1,172 @@
+#include "shell/document_text.h"
+
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace quenloft {
+namespace {
+
+constexpr qsizetype kLongestPiece = 4096;
+// Blocks grow by what is typed and inserted in them; beyond this an insertion gets blocks of its
+// own.
+constexpr qsizetype kLongestBlock = 2 * kLongestPiece;
+
+// Paragraph separator, the document's own frame marks, and kGoesOn; the stand-in of each is the
+// low surrogate at its index.
+constexpr std::array<char16_t, 4> kReserved{0x2029, 0xFDD0, 0xFDD1, 0x206F};
+constexpr char16_t kFirstStandIn = 0xDC00;
+
+void PutStandIns(QString& text) {
+    const auto isReserved = [](QChar c) {
+        return c.unicode() >= kReserved[0] &&
+               std::ranges::find(kReserved, c.unicode()) != kReserved.end();
+    };
+    const auto first = std::find_if(text.cbegin(), text.cend(), isReserved);
+    for (qsizetype i = first - text.cbegin(); i < text.size(); ++i) {
+        const auto* place = std::ranges::find(kReserved, text.at(i).unicode());
+        if (place != kReserved.end()) {
+            text[i] = QChar(static_cast<char16_t>(kFirstStandIn + (place - kReserved.begin())));
+        }
+    }
+}
+
+bool IsStandIn(QStringView text, qsizetype place) {
+    const char16_t c = text[place].unicode();
+    return c >= kFirstStandIn && c < kFirstStandIn + kReserved.size() &&
+           (place == 0 || !text[place - 1].isHighSurrogate());
+}
+
+void TakeStandInsBack(QString& text) {
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (text.at(i).isLowSurrogate() && IsStandIn(text, i)) {
+            text[i] =
+                QChar(kReserved[static_cast<std::size_t>(text.at(i).unicode()) - kFirstStandIn]);
+        }
+    }
+}
+
+void UnifyLineEnds(QString& text) {
+    if (text.contains(u'\r')) {
+        text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+        text.replace(u'\r', u'\n');
+    }
+}
+
+// The end of the next piece of `text`: behind a line feed, or else behind the last blank.
+qsizetype PieceLength(QStringView text) {
+    const QStringView head = text.left(kLongestPiece);
+    const qsizetype feed = head.indexOf(u'\n');
+    if (feed >= 0) {
+        return feed + 1;
+    }
+    const qsizetype blank = head.lastIndexOf(u' ');
+    if (blank >= 0) {
+        return blank + 1;
+    }
+    return head.back().isHighSurrogate() ? head.size() - 1 : head.size();
+}
+
+bool HasLongLines(QStringView text) {
+    for (qsizetype start = 0; text.size() - start > kLongestPiece;) {
+        const qsizetype feed = text.indexOf(u'\n', start);
+        if ((feed < 0 ? text.size() : feed) - start > kLongestPiece) {
+            return true;
+        }
+        start = feed + 1;
+    }
+    return false;
+}
+
+void BreakLongLines(QString& text) {
+    if (!HasLongLines(text)) {
+        return;
+    }
+    QString broken;
+    broken.reserve(text.size() + text.size() / kLongestPiece * 4);
+    QStringView rest(text);
+    while (rest.size() > kLongestPiece) {
+        const QStringView piece = rest.left(PieceLength(rest));
+        broken += piece;
+        if (!piece.endsWith(u'\n')) {
+            broken += kGoesOn;
+            broken += u'\n';
+        }
+        rest = rest.mid(piece.size());
+    }
+    broken += rest;
+    text = std::move(broken);
+}
+
+// A line into which much was inserted already goes on in a new block.
+void KeepBlocksShort(QString& text, const QTextCursor& cursor) {
+    const qsizetype before = cursor.positionInBlock();
+    const qsizetype after = cursor.block().length() - 1 - before;
+    const qsizetype firstFeed = text.indexOf(u'\n');
+    const qsizetype firstLine = firstFeed < 0 ? text.size() : firstFeed;
+    const qsizetype lastLine = text.size() - 1 - text.lastIndexOf(u'\n');
+    const bool isOneLine = firstFeed < 0;
+    if (after > 0 && (isOneLine ? before : 0) + lastLine + after > kLongestBlock) {
+        text.append(kGoesOn).append(u'\n');
+    }
+    if (before > 0 && before + firstLine > kLongestBlock) {
+        text.prepend(u'\n').prepend(kGoesOn);
+    }
+}
+
+}  // namespace
+
+bool GoesOn(const QTextBlock& block) {
+    const QTextDocument* document = block.document();
+    return block.length() > 1 &&
+           document->characterAt(block.position() + block.length() - 2) == kGoesOn;
+}
+
+bool IsContinued(const QTextBlock& block) {
+    const QTextBlock before = block.previous();
+    return before.isValid() && GoesOn(before);
+}
+
+void InsertText(QTextCursor& cursor, QString text) {
+    UnifyLineEnds(text);
+    PutStandIns(text);
+    BreakLongLines(text);
+    cursor.beginEditBlock();
+    cursor.removeSelectedText();
+    KeepBlocksShort(text, cursor);
+    cursor.insertText(text);  // In one piece: each piece costs a time that grows with the document.
+    cursor.endEditBlock();
+}
+
+QString TextBetween(const QTextDocument& document, int start, int end, QLatin1String lineBreak) {
+    // Block by block: the document's own functions turn no-break spaces into blanks.
+    QString text;
+    text.reserve(end - start);
+    bool goesOn = true;  // The first block begins no line.
+    for (QTextBlock block = document.findBlock(start); block.isValid() && block.position() <= end;
+         block = block.next()) {
+        if (!goesOn) {
+            text += lineBreak;
+        }
+        const QString whole = block.text();
+        goesOn = whole.endsWith(kGoesOn);
+        const int from = std::max(start - block.position(), 0);
+        const QStringView part = QStringView(whole).mid(from, end - block.position() - from);
+        if (whole.contains(kGoesOn)) {
+            text += part.toString().remove(kGoesOn);
+        } else {
+            text += part;
+        }
+    }
+    TakeStandInsBack(text);
+    return text;
+}
+
+QString WholeText(const QTextDocument& document, QLatin1String lineBreak) {
+    return TextBetween(document, 0, document.characterCount() - 1, lineBreak);
+}
+
+}  // namespace quenloft
