@@ -21,6 +21,7 @@ void Clear(QMenu& menu) {
 
 QString CaptionOf(const QMdiSubWindow& window, int number) {
     QString title = window.windowTitle();
+    title.replace(QLatin1String("[*]"), QLatin1String(window.isWindowModified() ? "*" : ""));
     title.replace(u'&', QLatin1String("&&")).replace(u'\t', u' ');  // A tab begins a shortcut.
     constexpr int kDigits = 9;
     return QStringLiteral("%1%2 %3")
