@@ -3,9 +3,9 @@
 
 #include <memory>
 
-#include "explorer/library_icons.h"
 #include "explorer/library_item.h"
 #include "shell/child_window.h"
+#include "shell/library_icons.h"
 
 class QModelIndex;
 

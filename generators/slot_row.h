@@ -5,7 +5,7 @@
 #include <QWidget>
 #include <string>
 
-#include "generators/elided_widgets.h"
+#include "shell/elided_widgets.h"
 
 namespace quenloft {
 

@@ -4,7 +4,7 @@
 
 #include "engine/program_title.h"
 #include "engine/value.h"
-#include "generators/elided_widgets.h"
+#include "shell/elided_widgets.h"
 #include "tests/generators/generators_fixture.h"
 
 namespace quenloft {

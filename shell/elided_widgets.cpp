@@ -1,4 +1,4 @@
-#include "generators/elided_widgets.h"
+#include "shell/elided_widgets.h"
 
 #include <QPainter>
 #include <QStyleOptionButton>

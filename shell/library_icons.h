@@ -1,5 +1,5 @@
-// The icons of the library explorer, drawn when they are needed: sharp at any size, legible on
-// light and on dark.
+// The icons of the library and of what is done with it, drawn when they are needed: sharp at any
+// size, legible on light and on dark.
 #pragma once
 
 #include <QIcon>

@@ -1,4 +1,4 @@
-#include "dice/up_down_box.h"
+#include "shell/up_down_box.h"
 
 #include <QLineEdit>
 #include <algorithm>

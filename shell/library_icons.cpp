@@ -1,4 +1,4 @@
-#include "explorer/library_icons.h"
+#include "shell/library_icons.h"
 
 #include <QGuiApplication>
 #include <QIconEngine>
