@@ -62,6 +62,8 @@ char32_t LowerLetter(char32_t letter) {
 
 std::string UpperCase(std::string_view utf8) { return MapText(utf8, UpperLetter); }
 
+std::string LowerCase(std::string_view utf8) { return MapText(utf8, LowerLetter); }
+
 std::string UpperCaseFirst(std::string_view utf8) {
     if (utf8.empty()) {
         return {};

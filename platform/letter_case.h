@@ -12,6 +12,8 @@ char32_t LowerLetter(char32_t letter);
 
 /// Every letter of `utf8` upper-cased. Bytes that are not UTF-8 stay as they are.
 std::string UpperCase(std::string_view utf8);
+/// Every letter lower-cased, likewise.
+std::string LowerCase(std::string_view utf8);
 /// The first letter upper-cased, the rest unchanged. Empty stays empty.
 std::string UpperCaseFirst(std::string_view utf8);
 /// A form in which two texts that differ only in case are equal. For comparing, not for showing.

@@ -1,0 +1,154 @@
+// The reference browser as an editor uses it.
+#include <QCheckBox>
+#include <QDialog>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTimer>
+#include <QTreeView>
+
+#include "editors/reference/choose_reference.h"
+#include "tests/support/windows_fixture.h"
+
+namespace quenloft {
+namespace {
+
+class ReferenceWindowTest : public WindowsFixture {
+  protected:
+    ReferenceWindowTest() {
+        folder.Write("lib/Tables/orcs.tbl",
+                     "Orcs\xA4"
+                     "1\r\n");
+        folder.Write("lib/Tables/elves.tbl",
+                     "Folk of the woods\xA4"
+                     "1\r\n");
+        folder.Write("lib/Tables/Deep/x.spt", "");
+        folder.Write("lib/Monsters/orcs.tbl",
+                     "Orcs\xA4"
+                     "1\r\n");
+        folder.Write("lib/Monsters/~hidden.tbl",
+                     "Hidden\xA4"
+                     "1\r\n");
+        ShowMainWindow(window);
+    }
+
+    /// What the browser returns after the user has done `steps`.
+    std::string Choose(const std::function<void()>& steps,
+                       const std::string& begin = "lib/Tables") {
+        QTimer::singleShot(0, &window, [this, &steps] {
+            dialog = window.findChild<QDialog*>("frmReference");
+            steps();
+        });
+        return ChooseReference(window, folder.Path(begin), &window);
+    }
+    template <typename Widget>
+    Widget* Get(const char* name) {
+        return dialog->findChild<Widget*>(name);
+    }
+    void Click(const char* name) { Get<QAbstractButton>(name)->click(); }
+    void Key(const char* name, int key) {
+        QTest::keyClick(Get<QWidget>(name), static_cast<Qt::Key>(key));
+    }
+    QTreeView* List() { return Get<QTreeView>("lvwReference"); }
+    std::string Current() { return List()->currentIndex().data().toString().toStdString(); }
+
+    frmMain window{Services(), {}};
+    QDialog* dialog = nullptr;
+};
+
+TEST_F(ReferenceWindowTest, ReturnsTheReferenceToAFileInAnotherFolder) {
+    const std::string result = Choose([this] {
+        EXPECT_EQ(Current(), "Deep");
+        Click("btnUpDirectory");
+        EXPECT_EQ(Current(), "Tables") << "where one came from";
+        Key("txtFilter", Qt::Key_Up);
+        EXPECT_EQ(Current(), "Monsters");
+        Key("txtFilter", Qt::Key_Return);
+        EXPECT_EQ(Current(), "Orcs");
+        Click("optCaseUpper");
+        Get<QLineEdit>("txtRepeat")->setText("3");
+        Click("btnOK");
+    });
+    EXPECT_EQ(result, "#..\\Monsters\\ORCS.TBL{^}3#");
+    EXPECT_EQ(Choose([this] {
+                  EXPECT_EQ(Get<QLabel>("lblRelative")->text(), "");
+                  EXPECT_EQ(Get<QLineEdit>("txtRepeat")->text(), "1");
+                  QTest::keyClicks(Get<QWidget>("txtFilter"), "woods");
+                  EXPECT_EQ(List()->model()->rowCount(), 1);
+                  Key("txtFilter", Qt::Key_Return);
+              }),
+              "#ELVES.TBL#")
+        << "the capitals chosen last hold on";
+}
+
+TEST_F(ReferenceWindowTest, EveryOtherWayOutReturnsNoReference) {
+    EXPECT_EQ(Choose([this] { Click("btnSign"); }), "#");
+    EXPECT_EQ(Choose([this] { Click("btnCancel"); }), "");
+    EXPECT_EQ(Choose([this] { Key("txtFilter", Qt::Key_Escape); }), "");
+    folder.Write("lib/Empty/notes.txt", "");
+    EXPECT_EQ(Choose([this] { Click("btnOK"); }, "lib/Empty"), "");
+}
+
+TEST_F(ReferenceWindowTest, EnterChoosesNothingWhereTheFilterFindsNothing) {
+    EXPECT_EQ(Choose([this] {
+                  QTest::keyClicks(Get<QWidget>("txtFilter"), "dragons");
+                  EXPECT_FALSE(Get<QPushButton>("btnOK")->isEnabled());
+                  Key("txtFilter", Qt::Key_Return);
+                  EXPECT_TRUE(dialog->isVisible());
+                  EXPECT_EQ(Get<QLabel>("lblHint")->text(),
+                            "No title and no name here holds this text.");
+                  Get<QLineEdit>("txtFilter")->clear();
+                  List()->setCurrentIndex(List()->model()->index(1, 0));
+                  Click("btnOK");
+              }),
+              "#elves.tbl#");
+}
+
+TEST_F(ReferenceWindowTest, ListsHiddenNamesOnWishAndKeepsTheCurrentOne) {
+    EXPECT_EQ(Choose(
+                  [this] {
+                      EXPECT_EQ(List()->model()->rowCount(), 1);
+                      Click("chkDisplayHiddenFiles");
+                      EXPECT_EQ(List()->model()->rowCount(), 2);
+                      EXPECT_EQ(Current(), "Orcs");
+                      Key("lvwReference", Qt::Key_End);
+                      Click("optEveryWord");
+                      Key("lvwReference", Qt::Key_Return);
+                  },
+                  "lib/Monsters"),
+              "#~HiddeN.tbl#");
+}
+
+TEST_F(ReferenceWindowTest, StaysOnItsDrive) {
+    dialogs.WillConfirm();
+    const auto steps = [this] {
+        Key("lvwReference", Qt::Key_Backspace);
+        EXPECT_EQ(Get<QLabel>("lblRelative")->text(), "");
+        Click("btnCancel");
+    };
+    EXPECT_EQ(Choose(steps, "../../../.."), "");
+    EXPECT_EQ(dialogs.TakeLog(),
+              std::vector<std::string>{"warning: To keep reference integrity is not browsing for "
+                                       "reference on other drives allowed!"});
+}
+
+TEST_F(ReferenceWindowTest, SaysThatAFolderAboveCannotBeShown) {
+    dialogs.WillConfirm();
+    EXPECT_EQ(Choose(
+                  [this] {
+                      EXPECT_EQ(Get<QLabel>("lblHint")->text().toStdString(),
+                                "The folder cannot be shown: Path not found: " +
+                                    folder.Path("gone/sub") + ".");
+                      Click("btnUpDirectory");
+                      Click("btnUpDirectory");
+                      EXPECT_EQ(Current(), "lib");
+                      Click("btnCancel");
+                  },
+                  "gone/sub"),
+              "");
+    EXPECT_EQ(dialogs.TakeLog(),
+              std::vector<std::string>{"warning: Failure in displaying folder content!"});
+}
+
+}  // namespace
+}  // namespace quenloft
