@@ -39,7 +39,7 @@ constexpr MenuEntry kMenus[] = {
       Menu(1, "mnuTable", "&Table"),
         Window(2, "mnuFile_OpenTable", "&Open Table...", "Ctrl+O", form::kSingleList, &ChildWindow::OpenFile),
         Window(2, "mnuNewTable", "&New Table", "Ctrl+N", form::kEditTable, &ChildWindow::NewFile),
-        Window(2, "mnuViewEditTable", "&Edit Table...", "", form::kEditTable),
+        Window(2, "mnuViewEditTable", "&Edit Table...", "", form::kEditTable, &ChildWindow::OpenFile),
         Window(2, "mnuViewImportTable", "&Import into table", "", form::kImportTable),
       Menu(1, "mnuView_Scripts", "&Scripts"),
         Window(2, "mnuFile_OpenScript", "&Open Script...", "Ctrl+Shift+O", form::kScript, &ChildWindow::OpenFile),

@@ -7,6 +7,7 @@
 #include "dice/probability_window.h"
 #include "dice/shadowrun_window.h"
 #include "dice/simulation_on.h"
+#include "editors/table/table_window.h"
 #include "explorer/explorer_window.h"
 #include "generators/list_single_window.h"
 #include "generators/lists_window.h"
@@ -41,6 +42,7 @@ std::vector<WindowKind> MakeWindowKinds(SystemRandomSource& random) {
         {form::kScript, Instances::Many, Make<frmScript>},
         {form::kDice, Instances::One,
          [&random](Workspace& workspace) { return new frmDice(workspace, random); }},
+        {form::kEditTable, Instances::Many, Make<frmEdit_Table>},
         {form::kProbability, Instances::Many, MakeWith<frmProbability>(simulation)},
         {form::kShadowrunProbability, Instances::Many,
          MakeWith<frmShadowrunProbability>(simulation)},

@@ -1,0 +1,42 @@
+#include "editors/table/table_rows.h"
+
+#include "engine/numbers.h"
+#include "engine/text_helpers.h"
+
+namespace quenloft {
+
+RowKind KindOfRow(std::string_view frequency) {
+    if (WeightOf(frequency) != 0) {
+        return RowKind::Weight;
+    }
+    if (frequency == kCommentFrequency) {
+        return RowKind::Comment;
+    }
+    return Trimmed(frequency).empty() || ParseNumber(frequency) ? RowKind::Continuation
+                                                                : RowKind::NoNumber;
+}
+
+double WeightOf(std::string_view frequency) {
+    return frequency.empty() ? 0 : NumericPrefix(frequency);
+}
+
+std::string OneLine(std::string_view text) {
+    std::string line;
+    line.reserve(text.size());
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool isPair = text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n';
+        i += isPair ? 1 : 0;
+        line += text[i] == '\r' || text[i] == '\n' ? ' ' : text[i];
+    }
+    return line;
+}
+
+const std::string& CellText(const TableRow& row, int column) {
+    return column == kFrequencyColumn ? row.frequency : row.entry;
+}
+
+std::string& CellText(TableRow& row, int column) {
+    return column == kFrequencyColumn ? row.frequency : row.entry;
+}
+
+}  // namespace quenloft

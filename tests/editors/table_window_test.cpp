@@ -1,0 +1,429 @@
+// The table editor as its user meets it: the grid's keys, the questions, and what stands on disk.
+#include "editors/table/table_window.h"
+
+#include <QHeaderView>
+#include <QLabel>
+#include <QMdiSubWindow>
+#include <QPushButton>
+
+#include "editors/table/table_grid.h"
+#include "engine/program_title.h"
+#include "shell/form_names.h"
+#include "tests/support/recording_window.h"
+#include "tests/support/windows_fixture.h"
+
+namespace quenloft {
+namespace {
+
+using Log = std::vector<std::string>;
+
+class TableWindowTest : public WindowsFixture {
+  protected:
+    TableWindowTest() {
+        folder.Write("orcs.tbl", kOrcs);
+        ShowMainWindow(window);
+        editor = static_cast<frmEdit_Table*>(window.Open(form::kEditTable));
+        grid = editor->findChild<TableGrid*>("grdTable");
+        box = editor->findChild<QLineEdit*>("tbFgEdit");
+    }
+
+    std::vector<WindowKind> Kinds() {
+        return {{form::kEditTable, Instances::Many,
+                 [this](Workspace& workspace) {
+                     return new frmEdit_Table(
+                         workspace, [this](Workspace&, const std::string& from, QWidget*) {
+                             referenceFolder = from;
+                             return reference;
+                         });
+                 }},
+                {form::kSingleList, Instances::Many, [this](Workspace& workspace) {
+                     return list = new RecordingWindow(workspace, form::kSingleList);
+                 }}};
+    }
+    void LoadOrcs() { editor->Load(folder.Path("orcs.tbl")); }
+    void GoTo(int row, int column) {
+        grid->setFocus();
+        grid->GoTo(row, column);
+    }
+    void Click(const char* button) { editor->findChild<QPushButton*>(button)->click(); }
+    QLineEdit* Field(const char* name) { return editor->findChild<QLineEdit*>(name); }
+    /// To whatever has the focus, as from the keyboard.
+    static void Press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QTest::keyClick(QApplication::focusWidget(), static_cast<Qt::Key>(key), modifiers);
+    }
+    static void Type(const char* text) {
+        for (const char letter : std::string(text)) {
+            QTest::keyClick(QApplication::focusWidget(), letter);
+        }
+    }
+    std::string Rows() {
+        std::string text;
+        for (int row = 0; row < grid->model()->rowCount(); ++row) {
+            for (int column = 0; column < 2; ++column) {
+                text +=
+                    grid->model()->index(row, column).data(Qt::EditRole).toString().toStdString();
+                text += column == 0 ? "|" : "\n";
+            }
+        }
+        return text;
+    }
+    std::string Header(int row) {
+        return grid->model()->headerData(row, Qt::Vertical).toString().toStdString();
+    }
+    std::string CurrentCell() {
+        return std::to_string(grid->currentIndex().row()) + "," +
+               std::to_string(grid->currentIndex().column());
+    }
+
+    static constexpr char kOrcs[] =
+        "Orcs\xA4"
+        "20??X??\r\n\r\n5\xA7"
+        "A\r\n15\xA7"
+        "B\r\nmore\r\n20\xA7"
+        "C\r\n";
+    static constexpr char kQuestion[] = "yes, no or cancel: Table not saved!\r\nSave table now?";
+
+    std::string reference;
+    std::string referenceFolder;
+    QPointer<RecordingWindow> list;
+    frmMain window{Services(), Kinds()};
+    frmEdit_Table* editor = nullptr;
+    TableGrid* grid = nullptr;
+    QLineEdit* box = nullptr;
+};
+
+TEST_F(TableWindowTest, ShowsWeightsAndWritesBounds) {
+    LoadOrcs();
+    EXPECT_EQ(Rows(), "5|A\n10|B\n|more\n5|C\n");
+    EXPECT_EQ(Header(1), "6-15  50 %");
+    EXPECT_EQ(Field("txtTitle")->text(), "Orcs");
+    EXPECT_EQ(Field("txtModifier")->text(), "??X??");
+    EXPECT_EQ(editor->windowTitle(), "Table Editor (..\\orcs.tbl)[*]");
+    EXPECT_FALSE(editor->isWindowModified());
+    Click("btnSave");
+    EXPECT_EQ(folder.Read("orcs.tbl"), kOrcs);
+    EXPECT_FALSE(files.FileExists(folder.Path("orcs.tbl~")));
+}
+
+TEST_F(TableWindowTest, MovesFromCellToCellAndStoresOnTheWay) {
+    LoadOrcs();
+    struct {
+        int row, column;
+        Qt::Key key;
+        const char* rows;
+        const char* cell;
+        bool edits;
+    } cases[] = {
+        {0, 0, Qt::Key_Return, "7|A\n10|B\n|more\n5|C\n", "0,1", true},
+        {3, 1, Qt::Key_Tab, "5|A\n10|B\n|more\n5|7\n", "0,0", true},
+        {1, 0, Qt::Key_Backtab, "5|A\n7|B\n|more\n5|C\n", "0,1", true},
+        {3, 0, Qt::Key_Down, "5|A\n10|B\n|more\n7|C\n", "0,1", true},
+        {0, 0, Qt::Key_Up, "7|A\n10|B\n|more\n5|C\n", "3,1", true},
+        {1, 1, Qt::Key_Escape, "5|A\n10|B\n|more\n5|C\n", "1,1", false},
+    };
+    for (const auto& c : cases) {
+        GoTo(c.row, c.column);
+        Type("7");
+        EXPECT_EQ(QApplication::focusWidget(), box);
+        Press(c.key);
+        EXPECT_EQ(Rows(), c.rows) << c.key;
+        EXPECT_EQ(CurrentCell(), c.cell) << c.key;
+        EXPECT_EQ(box->isVisible(), c.edits) << c.key;
+        if (c.edits) {
+            Press(Qt::Key_Escape);
+            Press(Qt::Key_Z, Qt::ControlModifier);
+        }
+        EXPECT_EQ(QApplication::focusWidget(), grid);
+        EXPECT_FALSE(editor->isWindowModified()) << "undone to what was loaded";
+    }
+}
+
+TEST_F(TableWindowTest, CountsWithTheWeightThatIsBeingTyped) {
+    LoadOrcs();
+    GoTo(0, 0);
+    Type("25");
+    EXPECT_EQ(Header(0), "1-25  62.5 %");
+    EXPECT_EQ(Header(1), "26-35  25 %");
+    Type("x");
+    Press(Qt::Key_Escape);
+    EXPECT_EQ(Header(0), "1-5  25 %");
+    EXPECT_EQ(Rows(), "5|A\n10|B\n|more\n5|C\n");
+}
+
+TEST_F(TableWindowTest, InsertsClearsRemovesAndMovesRows) {
+    LoadOrcs();
+    GoTo(1, 1);
+    Press(Qt::Key_Insert);
+    Type("2");
+    Press(Qt::Key_Return);
+    Type("new");
+    Press(Qt::Key_Return, Qt::ControlModifier);
+    Type("3");
+    Click("btnSave");
+    EXPECT_EQ(Rows(), "5|A\n2|new\n3|\n10|B\n|more\n5|C\n") << "saving stores the cell first";
+    Press(Qt::Key_Up, Qt::AltModifier);
+    EXPECT_EQ(Rows(), "5|A\n3|\n2|new\n10|B\n|more\n5|C\n");
+    Press(Qt::Key_Delete, Qt::ControlModifier);
+    Press(Qt::Key_Delete);
+    EXPECT_EQ(Rows(), "5|A\n|new\n10|B\n|more\n5|C\n");
+    grid->verticalHeader()->moveSection(4, 0);
+    EXPECT_EQ(Rows(), "5|C\n5|A\n|new\n10|B\n|more\n");
+    EXPECT_EQ(grid->verticalHeader()->visualIndex(4), 4) << "the header follows the rows";
+    for (int i = 0; i < 4; ++i) {
+        EXPECT_TRUE(editor->isWindowModified());
+        Press(Qt::Key_Z, Qt::ControlModifier);
+    }
+    EXPECT_FALSE(editor->isWindowModified());
+    EXPECT_EQ(Rows(), "5|A\n2|new\n3|\n10|B\n|more\n5|C\n");
+    Press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(Rows(), "5|A\n3|\n2|new\n10|B\n|more\n5|C\n");
+}
+
+TEST_F(TableWindowTest, ExchangesCellsWithSpreadsheets) {
+    LoadOrcs();
+    GoTo(1, 0);
+    Press(Qt::Key_Right, Qt::ShiftModifier);
+    Choose(window, "mnuEdit_Cut");
+    EXPECT_EQ(clipboard.text, "10\tB");
+    EXPECT_EQ(Rows(), "5|A\n|\n|more\n5|C\n");
+    clipboard.text = "3\tx\r\n4\t\"y\r\nz\"\r\n";
+    GoTo(3, 0);
+    Choose(window, "mnuEdit_Paste");
+    EXPECT_EQ(Rows(), "5|A\n|\n|more\n3|x\n4|y\n|z\n");
+    Press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Rows(), "5|A\n|\n|more\n5|C\n");
+    editor->CopyGridData();
+    EXPECT_EQ(clipboard.text, "5\tA\r\n\t\r\n\tmore\r\n5\tC");
+    // A text box with the focus is served alone.
+    Field("txtTitle")->setFocus();
+    Choose(window, "mnuEdit_Copy");
+    EXPECT_EQ(clipboard.text, "Orcs");
+    Choose(window, "mnuEdit_Paste");
+    EXPECT_EQ(Field("txtTitle")->text(), "OrcsOrcs");
+    EXPECT_EQ(Rows(), "5|A\n|\n|more\n5|C\n");
+}
+
+TEST_F(TableWindowTest, TakesAMillionLettersAndLineEndsIntoACell) {
+    LoadOrcs();
+    GoTo(0, 1);
+    Press(Qt::Key_F2);
+    box->selectAll();
+    clipboard.text = std::string(1000000, 'x') + "\r\n\ty";
+    Choose(window, "mnuEdit_Paste");
+    Press(Qt::Key_Return);
+    const QString cell = grid->model()->index(0, 1).data(Qt::EditRole).toString();
+    EXPECT_EQ(cell.size(), 1000004);
+    EXPECT_TRUE(cell.endsWith("x  \ty") || cell.endsWith("x \ty")) << cell.right(5).toStdString();
+}
+
+TEST_F(TableWindowTest, UndoesTypingInTheTitleAsOneStep) {
+    LoadOrcs();
+    Field("txtTitle")->setFocus();
+    Field("txtTitle")->end(false);
+    Type(" of old");
+    GoTo(0, 1);
+    Type("B");
+    Press(Qt::Key_Return);
+    Press(Qt::Key_Escape);
+    Field("txtTitle")->setFocus();
+    Press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Rows().substr(0, 4), "5|A\n");
+    EXPECT_EQ(Field("txtTitle")->text(), "Orcs of old");
+    Press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Field("txtTitle")->text(), "Orcs");
+    EXPECT_FALSE(editor->isWindowModified());
+}
+
+TEST_F(TableWindowTest, PutsAReferenceWhereANumberSignIsTyped) {
+    GoTo(0, 0);
+    Click("btnInsert");
+    dialogs.WillConfirm();
+    Type("#");
+    EXPECT_EQ(dialogs.TakeLog(), Log{"warning: In order to display the full reference list, the "
+                                     "table must be saved first!"});
+    EXPECT_EQ(box->text(), "#");
+    dialogs.WillAnswer(Answer::No);
+    LoadOrcs();
+    dialogs.TakeLog();
+    reference = "#sub\\Names{^}3#";
+    GoTo(0, 1);
+    Press(Qt::Key_F2);
+    Press(Qt::Key_Home);
+    Type("#");
+    EXPECT_EQ(box->text(), "#sub\\Names^3#A");
+    EXPECT_EQ(referenceFolder, folder.Path() + "/");
+    reference.clear();
+    box->selectAll();
+    Type("#");
+    EXPECT_EQ(box->text(), "#sub\\Names^3#A") << "nothing chosen, nothing changed";
+}
+
+TEST_F(TableWindowTest, KeepsTheCellOpenWhileAnotherWindowHasTheFocus) {
+    LoadOrcs();
+    GoTo(0, 1);
+    EXPECT_EQ(window.InsertionTarget(), grid);
+    Type("x");
+    EXPECT_EQ(window.InsertionTarget(), box);
+    window.Open(form::kSingleList)->findChild<QPushButton*>()->setFocus();
+    EXPECT_TRUE(box->isVisible());
+    EXPECT_EQ(window.InsertionTarget(), box);
+    qobject_cast<QLineEdit*>(window.InsertionTarget())->insert("@1d6@");
+    editor->Export();
+    EXPECT_EQ(Rows().substr(0, 9), "5|x@1d6@\n");
+    EXPECT_EQ(window.InsertionTarget(), grid) << "the text box has gone";
+    grid->model()->setData(grid->currentIndex(), "a\nb");
+    EXPECT_EQ(Rows().substr(0, 6), "5|a b\n");
+    EXPECT_TRUE(editor->isWindowModified());
+}
+
+TEST_F(TableWindowTest, AsksBeforeWorkIsLost) {
+    LoadOrcs();
+    GoTo(0, 0);
+    Type("6");
+    dialogs.WillAnswer(Answer::Cancel);
+    editor->CloseWindow();
+    EXPECT_TRUE(editor->isVisible());
+    dialogs.WillAnswer(Answer::Cancel);
+    Click("btnOpen");
+    dialogs.WillAnswer(Answer::Cancel);
+    Press(Qt::Key_F5);
+    EXPECT_EQ(dialogs.TakeLog(), (Log{kQuestion, kQuestion, kQuestion}));
+    EXPECT_EQ(Rows(), "6|A\n10|B\n|more\n5|C\n");
+    dialogs.WillAnswer(Answer::Yes);
+    EXPECT_TRUE(editor->AskToSave());
+    EXPECT_EQ(folder.Read("orcs.tbl").substr(0, 7),
+              "Orcs\xA4"
+              "21");
+    EXPECT_TRUE(editor->AskToSave()) << "nothing to ask about";
+    // New always asks, and a save that fails or is cancelled keeps the table.
+    dialogs.WillAnswer(Answer::No);
+    Click("btnNew");
+    EXPECT_EQ(editor->windowTitle(), "Table Editor[*]");
+    EXPECT_EQ(Rows(), "");
+    Field("txtTitle")->setText("Elves");
+    dialogs.WillAnswer(Answer::Yes);
+    dialogs.WillCancel();
+    Click("btnNew");
+    EXPECT_EQ(Field("txtTitle")->text(), "Elves");
+    EXPECT_EQ(dialogs.TakeLog(),
+              (Log{kQuestion, "yes or no: Do You want to save file orcs.tbl ?",
+                   "yes or no: Do You want to save file  ?",
+                   "save: Table (*.tbl)|*.tbl|All files (*.*)|*.* at " + folder.Path()}));
+    EXPECT_TRUE(editor->isWindowModified());
+    dialogs.WillGive(folder.Path("elves.tbl"));
+    Press(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(editor->windowTitle(), "Table Editor (..\\elves.tbl)[*]");
+    EXPECT_EQ(folder.Read("elves.tbl"),
+              "Elves\xA4"
+              "0\r\n\r\n");
+    dialogs.TakeLog();
+}
+
+TEST_F(TableWindowTest, RefusesToSaveWhatWouldBecomeSomethingElse) {
+    LoadOrcs();
+    GoTo(1, 0);
+    Type("abc");
+    dialogs.WillConfirm();
+    Press(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(dialogs.TakeLog(), Log{"warning: The table cannot be saved. Row 2 (\"B\") has a "
+                                     "frequency that is no number."});
+    EXPECT_EQ(folder.Read("orcs.tbl"), kOrcs);
+    EXPECT_TRUE(editor->isWindowModified());
+    EXPECT_EQ(CurrentCell(), "1,0");
+    EXPECT_TRUE(grid->model()->headerData(1, Qt::Vertical, Qt::DecorationRole).isValid());
+    EXPECT_EQ(grid->model()->index(1, 0).data(Qt::ToolTipRole),
+              "Row 2 has a frequency that is no number.");
+}
+
+TEST_F(TableWindowTest, KeepsAFileBesideTheNewOneThatSaysLess) {
+    folder.Write("old.tbl",
+                 ";about\nT\xA4"
+                 "6\n\n3\xA7"
+                 "A\n3\xA7"
+                 "B\n6\xA7"
+                 "C\n");
+    const std::string former = folder.Read("old.tbl");
+    editor->Load(folder.Path("old.tbl"));
+    EXPECT_TRUE(editor->findChild<QLabel*>("lblTotal")
+                    ->text()
+                    .contains("Saving leaves out: comments above the header; the former file stays "
+                              "as old.tbl~."));
+    dialogs.WillAnswer(Answer::No);
+    Click("btnSave");
+    EXPECT_EQ(folder.Read("old.tbl"), former);
+    dialogs.WillAnswer(Answer::Yes);
+    Click("btnSave");
+    EXPECT_EQ(folder.Read("old.tbl"),
+              "T\xA4"
+              "6\r\n\r\n3\xA7"
+              "A\r\nB\r\n6\xA7"
+              "C\r\n");
+    EXPECT_EQ(folder.Read("old.tbl~"), former);
+    EXPECT_EQ(dialogs.TakeLog().front(),
+              "yes or no: Row 2 (\"B\") was an entry that no roll picks. With the weight 0 it "
+              "becomes another line of the entry above. Save the table so?");
+    Click("btnSave");
+    EXPECT_EQ(folder.Read("old.tbl~"), former) << "the second time nothing is lost";
+}
+
+TEST_F(TableWindowTest, KeepsWhatItShowsWhenAFileCannotBeRead) {
+    LoadOrcs();
+    folder.Write("folder/x", "");
+    for (const char* name : {"missing.tbl", "folder"}) {
+        dialogs.WillConfirm();
+        editor->Load(folder.Path(name));
+        EXPECT_EQ(Rows(), "5|A\n10|B\n|more\n5|C\n");
+        EXPECT_EQ(editor->windowTitle(), "Table Editor (..\\orcs.tbl)[*]");
+    }
+    EXPECT_EQ(dialogs.TakeLog().front(), "warning: Errors in table " + folder.Path("missing.tbl") +
+                                             "\r\nFile not found: " + folder.Path("missing.tbl") +
+                                             ".");
+    folder.Write("binary.tbl", std::string("\0\x01\xFF\n\xA7\0\n", 7) + std::string(5000000, 'x'));
+    dialogs.WillConfirm();
+    editor->Load(folder.Path("binary.tbl"));
+    EXPECT_EQ(grid->model()->index(1, 1).data(Qt::EditRole).toString().size(), 5000000);
+    dialogs.TakeLog();
+}
+
+TEST_F(TableWindowTest, RunsTheSavedTableInTheSameListEachTime) {
+    LoadOrcs();
+    Click("btnRun");
+    ASSERT_TRUE(list);
+    const QPointer<RecordingWindow> first = list;
+    GoTo(0, 0);
+    Type("6");
+    dialogs.WillAnswer(Answer::Yes);
+    Press(Qt::Key_F5);
+    const std::string load = "load " + folder.Path("orcs.tbl");
+    EXPECT_EQ(first->asked, (Log{load, "run", load, "run"}));
+    EXPECT_EQ(folder.Read("orcs.tbl").substr(0, 7),
+              "Orcs\xA4"
+              "21");
+    EXPECT_EQ(dialogs.TakeLog(), Log{kQuestion});
+    delete first->parentWidget();
+    Click("btnRun");
+    EXPECT_EQ(list->asked, (Log{load, "run"}));
+}
+
+TEST_F(TableWindowTest, FindsAndReplacesInCells) {
+    LoadOrcs();
+    GoTo(0, 0);
+    Press(Qt::Key_H, Qt::ControlModifier);
+    Type("o");
+    Press(Qt::Key_Return);
+    EXPECT_EQ(CurrentCell(), "2,1");
+    Field("txtReplaceWith")->setText("0");
+    Click("btnReplace");
+    EXPECT_EQ(Rows(), "5|A\n10|B\n|m0re\n5|C\n");
+    Field("txtFind")->setText("0");
+    Field("txtReplaceWith")->setText("");
+    Click("btnReplaceAll");
+    EXPECT_EQ(Rows(), "5|A\n1|B\n|mre\n5|C\n");
+    Press(Qt::Key_Escape);
+    EXPECT_EQ(QApplication::focusWidget(), grid);
+    Press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Rows(), "5|A\n10|B\n|m0re\n5|C\n") << "all at once";
+}
+
+}  // namespace
+}  // namespace quenloft
