@@ -7,12 +7,12 @@
 #include "engine/program_title.h"
 #include "engine/text_helpers.h"
 #include "engine/value.h"
-#include "generators/dropped_file.h"
 #include "generators/export_text.h"
 #include "generators/result_box.h"
 #include "generators/working_folder.h"
 #include "platform/dialogs.h"
 #include "platform/qt/qt_text.h"
+#include "shell/dropped_file.h"
 #include "shell/font_settings.h"
 #include "shell/form_names.h"
 #include "shell/generation_run.h"
@@ -63,6 +63,7 @@ void frmListSingle::OpenFile() {
 
 void frmListSingle::Load(const std::string& path) {
     Bind(BindTable(workspace_.Services().engine, path));
+    workspace_.NoteRecentFile(slot_.path);
 }
 
 void frmListSingle::Run() {

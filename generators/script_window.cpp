@@ -7,13 +7,13 @@
 #include "engine/program_title.h"
 #include "engine/text_helpers.h"
 #include "engine/value.h"
-#include "generators/dropped_file.h"
 #include "generators/export_text.h"
 #include "generators/result_box.h"
 #include "generators/script_place.h"
 #include "generators/working_folder.h"
 #include "platform/dialogs.h"
 #include "platform/qt/qt_text.h"
+#include "shell/dropped_file.h"
 #include "shell/font_settings.h"
 #include "shell/form_names.h"
 #include "shell/generation_run.h"
@@ -120,6 +120,7 @@ std::string frmScript::Show(const std::string& path) {
     folder_ = FolderOf(files, path);
     std::string nativePath = files.NativePath(path);
     ui_->txtScript->setText(ToQt(nativePath));
+    workspace_.NoteRecentFile(nativePath);
     return nativePath;
 }
 

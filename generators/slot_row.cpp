@@ -3,9 +3,9 @@
 #include <QDropEvent>
 #include <QHBoxLayout>
 
-#include "generators/dropped_file.h"
 #include "generators/table_slot.h"
 #include "platform/qt/qt_text.h"
+#include "shell/dropped_file.h"
 
 namespace quenloft {
 

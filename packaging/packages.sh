@@ -10,6 +10,9 @@ TEST_PACKAGES=(
     # The start-up test opens the program on a screen of its own.
     fonts-dejavu-core openbox xdotool xvfb
 )
+DEB_PACKAGES=(dpkg-dev file gzip)
+# What checks an installation for a desktop.
+DESKTOP_CHECK_PACKAGES=(appstream desktop-file-utils lintian man-db shared-mime-info)
 CHECK_PACKAGES=(clang-format clang-tidy git)
 
 # Prints those of the packages named that are not installed.

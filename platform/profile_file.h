@@ -11,7 +11,8 @@ class ProfileFile {
     virtual ~ProfileFile() = default;
 
     /// Library path of the program's own profile: beside the executable, named like it, ".INI";
-    /// in the user's configuration folder only where the executable's folder cannot be written.
+    /// in the user's configuration folder where the program is installed system-wide, or where the
+    /// executable's folder cannot be written.
     virtual std::string GetProfileFileName() = 0;
     /// The executable's folder, a backslash and its name without extension.
     virtual std::string GetApplicationBaseName() = 0;

@@ -3,10 +3,14 @@
 #include <QFile>
 #include <QStandardPaths>
 #include <clocale>
+#include <filesystem>
+#include <iostream>
 
 #include "engine/engine.h"
 #include "platform/linux/linux_file_system.h"
 #include "platform/linux/linux_profile_file.h"
+#include "platform/linux/path_translation.h"
+#include "platform/linux/program_folders.h"
 #include "platform/linux/system_random_source.h"
 #include "platform/qt/qt_clipboard.h"
 #include "platform/qt/qt_desktop.h"
@@ -15,6 +19,7 @@
 #include "shell/main_window.h"
 #include "shell/program_icon.h"
 #include "shell/qt_engine_host.h"
+#include "shell/sample_library.h"
 #include "shell/window_kinds.h"
 
 namespace {
@@ -24,20 +29,32 @@ std::string ConfigurationFolder() {
     return QFile::encodeName(home + QStringLiteral("/quenloft")).toStdString();
 }
 
+/// The library path of a file that was handed over, whatever the bytes of its name.
+std::string DocumentPath(const char* argument) {
+    return quenloft::ShownLibraryPath(std::filesystem::absolute(argument).string());
+}
+
 }  // namespace
 
 int main(int argc, char* argv[]) {
     using namespace quenloft;
-    QApplication application(argc, argv);
+    QApplication application(argc, argv);  // Takes its own arguments away.
+    if (argc > 2) {
+        std::cerr << "usage: quenloft [FILE]\n";
+        return 2;
+    }
     // The toolkit takes the user's locale for numbers too; tables know only the full stop.
     std::setlocale(LC_NUMERIC, "C");
     QApplication::setWindowIcon(ProgramIcon());
     QApplication::setDesktopFileName(QStringLiteral("quenloft"));
 
+    // Before start-up makes the library the current folder.
+    const std::string document = argc > 1 ? DocumentPath(argv[1]) : std::string();
+    const std::string executable =
+        QFile::encodeName(QApplication::applicationFilePath()).toStdString();
+
     LinuxFileSystem files;
-    LinuxProfileFile profile(files,
-                             QFile::encodeName(QApplication::applicationFilePath()).toStdString(),
-                             ConfigurationFolder());
+    LinuxProfileFile profile(files, executable, ConfigurationFolder());
     SystemRandomSource random;
     QtDialogs dialogs;
     QtClipboard clipboard;
@@ -46,8 +63,13 @@ int main(int argc, char* argv[]) {
     QtEngineHost host(dialogs);
     Engine engine(files, random, host);
 
-    frmMain mainWindow({engine, host, files, profile, dialogs, clipboard, printer, desktop},
-                       MakeWindowKinds(random));
+    const ServiceSet services{engine, host, files, profile, dialogs, clipboard, printer, desktop};
+
+    frmMain mainWindow(services, MakeWindowKinds(random));
+    OfferSampleLibrary(services, SharedFolder(executable));
     mainWindow.StartUp();
+    if (!document.empty()) {
+        mainWindow.OpenDocument(document);
+    }
     return QApplication::exec();
 }

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDropEvent>
 #include <QLineEdit>
 #include <QMdiSubWindow>
 #include <QMenu>
@@ -10,17 +11,23 @@
 #include <QScreen>
 #include <QStatusBar>
 #include <QTextEdit>
+#include <algorithm>
 
 #include "engine/engine.h"
 #include "engine/program_title.h"
+#include "engine/text_helpers.h"
+#include "platform/dialogs.h"
+#include "platform/file_system.h"
 #include "platform/qt/qt_text.h"
 #include "shell/child_window.h"
 #include "shell/clipboard_commands.h"
+#include "shell/dropped_file.h"
 #include "shell/form_names.h"
 #include "shell/library_path.h"
 #include "shell/menu_builder.h"
 #include "shell/menu_table.h"
 #include "shell/print_export.h"
+#include "shell/recent_menu.h"
 #include "shell/settings_dialog.h"
 #include "shell/wait_cursor.h"
 #include "shell/window_arrangement.h"
@@ -29,10 +36,26 @@
 #include "shell/window_list.h"
 
 namespace quenloft {
+namespace {
+
+/// The window that a file opens in; null where there is none for it.
+const char* FormOfDocument(const std::string& path) {
+    if (IsTablePath(path)) {
+        return form::kSingleList;
+    }
+    if (IsScriptPath(path)) {
+        return form::kScript;
+    }
+    return ToQt(path).endsWith(QLatin1String(".rtf"), Qt::CaseInsensitive) ? form::kAuthor
+                                                                           : nullptr;
+}
+
+}  // namespace
 
 frmMain::frmMain(const ServiceSet& services, std::vector<WindowKind> windowKinds)
     : services_(services),
       windowKinds_(std::move(windowKinds)),
+      recentFiles_(services.profile),
       mdiArea_(new QMdiArea(this)),
       clipboardKeys_(new ClipboardKeysToMenu(this)) {
     setObjectName(QStringLiteral("frmMain"));
@@ -40,6 +63,7 @@ frmMain::frmMain(const ServiceSet& services, std::vector<WindowKind> windowKinds
     constexpr QSize kNormalSize(1000, 700);
     resize(kNormalSize);
     setCentralWidget(mdiArea_);
+    setAcceptDrops(true);
     BuildMenuBar();
     runIndicator_ = std::make_unique<RunIndicator>(*findChild<QAction*>("mnuAbort"), *statusBar());
     connect(qApp, &QApplication::focusChanged, this, &frmMain::FollowFocus);
@@ -59,6 +83,21 @@ void frmMain::StartUp() {
     EnterLibrary(services_.profile, services_.files);
     fontSettings_ = LoadFontSettings(services_.profile);
     Open(form::kExplorer);
+}
+
+void frmMain::OpenDocument(const std::string& path) {
+    const char* form = FormOfDocument(path);
+    if (!form || !CanOpen(form)) {
+        services_.dialogs.ShowMessage(
+            services_.files.NativePath(path) +
+                " cannot be opened: it is neither a table (*.tbl) nor a script (*.spt) nor notes "
+                "(*.rtf).",
+            MessageIcon::Warning);
+        return;
+    }
+    ChildWindow* child = Open(form);
+    child->Load(path);
+    child->Run();
 }
 
 std::string frmMain::LibraryPath() { return ReadLibraryPath(services_.profile); }
@@ -113,6 +152,10 @@ ChildWindow* frmMain::Open(std::string_view formName) {
     return child;
 }
 
+void frmMain::NoteRecentFile(const std::string& path) {
+    recentFiles_.Add(services_.files.NativePath(path));
+}
+
 void frmMain::ShowSettings() { frmSettings(services_, fontSettings_, this).exec(); }
 
 void frmMain::Print() { PrintWindow(ActiveChild(), services_); }
@@ -157,7 +200,21 @@ void frmMain::closeEvent(QCloseEvent* event) {
     }
     insertionTarget_.clear();
     SaveWindowGeometry(*this, services_.profile);
+    recentFiles_.Save();
     event->accept();
+}
+
+void frmMain::dragEnterEvent(QDragEnterEvent* event) {
+    if (std::ranges::any_of(DraggedFiles(*event), FormOfDocument)) {
+        AcceptAsCopy(*event);
+    }
+}
+
+void frmMain::dropEvent(QDropEvent* event) {
+    AcceptAsCopy(*event);
+    for (const std::string& path : DraggedFiles(*event)) {
+        OpenDocument(path);
+    }
 }
 
 void frmMain::BuildMenuBar() {
@@ -165,6 +222,8 @@ void frmMain::BuildMenuBar() {
         *menuBar(), MenuTable(),
         [this](const MenuEntry& entry) { return !entry.form || CanOpen(entry.form); },
         [this](const MenuEntry& entry) { Choose(entry); });
+    KeepRecentMenu(*findChild<QMenu*>("mnuFile_Recent"), recentFiles_,
+                   [this](const std::string& path) { OpenDocument(path); });
     KeepWindowList(*findChild<QMenu*>("mnuWindow"), *mdiArea_);
 }
 

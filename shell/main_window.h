@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "shell/font_settings.h"
+#include "shell/recent_files.h"
 #include "shell/run_indicator.h"
 #include "shell/window_kinds.h"
 #include "shell/workspace.h"
@@ -29,6 +30,9 @@ class frmMain : public QMainWindow, public Workspace {
 
     /// Shows the window, loads the settings and opens the library explorer.
     void StartUp();
+    /// Opens the table, script or notes at a native or library path in the window that fits; tables
+    /// and scripts run. Other files get a message.
+    void OpenDocument(const std::string& path);
 
     // --- Workspace ---
     const ServiceSet& Services() override { return services_; }
@@ -39,6 +43,7 @@ class frmMain : public QMainWindow, public Workspace {
     bool IsRunning() const override;
     bool CanOpen(std::string_view formName) const override;
     ChildWindow* Open(std::string_view formName) override;
+    void NoteRecentFile(const std::string& path) override;
     QWidget* InsertionTarget() const override { return insertionTarget_; }
     void SetInsertionTarget(QWidget* target) override { insertionTarget_ = target; }
 
@@ -59,6 +64,8 @@ class frmMain : public QMainWindow, public Workspace {
 
   protected:
     void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
   private:
     /// What a run in progress puts off.
@@ -78,6 +85,7 @@ class frmMain : public QMainWindow, public Workspace {
     const ServiceSet services_;
     const std::vector<WindowKind> windowKinds_;
     FontSettings fontSettings_;
+    RecentFiles recentFiles_;
     QMdiArea* mdiArea_;
     ClipboardKeysToMenu* clipboardKeys_;
     std::unique_ptr<RunIndicator> runIndicator_;

@@ -45,6 +45,7 @@ constexpr MenuEntry kMenus[] = {
         Window(2, "mnuFile_OpenScript", "&Open Script...", "Ctrl+Shift+O", form::kScript, &ChildWindow::OpenFile),
         Window(2, "mnuFile_NewScript", "&New Script", "Ctrl+Shift+N", form::kEdit, &ChildWindow::NewFile),
         Window(2, "mnuView_Edit", "Edit Scrip&t...", "", form::kEdit, &ChildWindow::OpenFile),
+      Menu(1, "mnuFile_Recent", "Open &Recent"),
       Command(1, "mnuFileSettings", "&Settings", "Ctrl+,", &frmMain::ShowSettings),
       Command(1, "mnuFile_Print", "&Print", "Ctrl+P", &frmMain::Print),
       Command(1, "mnuFile_Export", "&Export", "Ctrl+E", &frmMain::Export),

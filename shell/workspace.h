@@ -42,6 +42,9 @@ class Workspace {
     /// Shows the window of which there is one only, or a new one; null where CanOpen is false.
     virtual ChildWindow* Open(std::string_view formName) = 0;
 
+    /// A table or script was opened or saved: it becomes the first of the recent files.
+    virtual void NoteRecentFile(const std::string& path) = 0;
+
     // --- The editing control that last had the focus: inserted text goes there. ---
 
     /// Null when there is none, or its window has gone.

@@ -9,6 +9,7 @@
 
 #include "platform/linux/path_translation.h"
 #include "platform/linux/profile_text.h"
+#include "platform/linux/program_folders.h"
 
 namespace quenloft {
 
@@ -41,11 +42,15 @@ std::string LinuxProfileFile::GetApplicationBaseName() {
 
 std::string LinuxProfileFile::GetProfileFileName() {
     const std::filesystem::path executable(executablePath_);
-    if (CanBeWrittenTo(ParentPath(executablePath_))) {
+    if (LiesBesideExecutable()) {
         return GetApplicationBaseName() + std::string(kExtension);
     }
     const std::string name = executable.stem().string() + std::string(kExtension);
     return ShownLibraryPath(JoinPath(configurationFolder_, name));
+}
+
+bool LinuxProfileFile::LiesBesideExecutable() const {
+    return SharedFolder(executablePath_).empty() && CanBeWrittenTo(ParentPath(executablePath_));
 }
 
 std::string LinuxProfileFile::ReadOrNothing(std::string_view file) {
@@ -107,7 +112,7 @@ bool LinuxProfileFile::WriteProfileString(std::string_view section, std::string_
 
 /// The configuration folder does not exist before the program's first settings do.
 void LinuxProfileFile::MakeFolderFor(std::string_view file) {
-    if (file == GetProfileFileName() && !CanBeWrittenTo(ParentPath(executablePath_))) {
+    if (file == GetProfileFileName() && !LiesBesideExecutable()) {
         std::error_code ignored;  // Writing the file fails then.
         std::filesystem::create_directories(configurationFolder_, ignored);
         files_.LookAgain();

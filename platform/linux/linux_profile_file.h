@@ -26,6 +26,8 @@ class LinuxProfileFile : public ProfileFile {
     std::string ReadProfileKeyList(std::string_view file, std::string_view section) override;
 
   private:
+    /// Not where the program is installed for all, even where the user may write there.
+    bool LiesBesideExecutable() const;
     /// The file's bytes as they are now; none where it cannot be read.
     std::string ReadOrNothing(std::string_view file);
     void MakeFolderFor(std::string_view file);

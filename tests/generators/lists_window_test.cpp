@@ -108,7 +108,6 @@ TEST_F(ListsTest, OneDroppedFileIsBoundToTheSlotItIsDroppedOn) {
     Open();
     QWidget* row = Find("btnGenerate", 7)->parentWidget();
     EXPECT_FALSE(Drop(*row, {UrlOf("lib")}));
-    EXPECT_FALSE(Drop(*row, {UrlOf("lib/orcs.tbl"), UrlOf("lib/elves.tbl")}));
     EXPECT_FALSE(Drop(*row, {QUrl("https://example.org/orcs.tbl")}));
     EXPECT_TRUE(Drop(*row, {UrlOf("lib/elves.tbl")}));
     EXPECT_EQ(Title(7), "Elves");

@@ -1,0 +1,40 @@
+#include "shell/recent_files.h"
+
+#include <algorithm>
+
+#include "platform/profile_file.h"
+
+namespace quenloft {
+namespace {
+
+constexpr char kSection[] = "Recent";
+constexpr std::size_t kMost = 10;
+
+std::string KeyOf(std::size_t index) { return "File" + std::to_string(index); }
+
+}  // namespace
+
+RecentFiles::RecentFiles(ProfileFile& profile) : profile_(profile) {
+    const std::string file = profile_.GetProfileFileName();
+    for (std::size_t i = 0; i < kMost; ++i) {
+        std::string path = profile_.ReadProfileString(kSection, KeyOf(i), "", file);
+        if (!path.empty()) {
+            paths_.push_back(std::move(path));
+        }
+    }
+}
+
+void RecentFiles::Add(const std::string& path) {
+    std::erase(paths_, path);
+    paths_.insert(paths_.begin(), path);
+    paths_.resize(std::min(paths_.size(), kMost));
+}
+
+void RecentFiles::Save() {
+    const std::string file = profile_.GetProfileFileName();
+    for (std::size_t i = 0; i < paths_.size(); ++i) {
+        profile_.WriteProfileString(kSection, KeyOf(i), paths_[i], file);
+    }
+}
+
+}  // namespace quenloft

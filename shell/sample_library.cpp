@@ -1,0 +1,85 @@
+#include "shell/sample_library.h"
+
+#include <optional>
+
+#include "platform/dialogs.h"
+#include "platform/file_system.h"
+#include "platform/profile_file.h"
+#include "shell/service_set.h"
+
+namespace quenloft {
+namespace {
+
+constexpr char kSection[] = "Settings";
+constexpr char kKey[] = "Libpath";
+constexpr char kQuestion[] =
+    "Quenloft comes with a sample library of tables and scripts. Copy it into a folder of your "
+    "own, where you can change it?";
+
+void CopyFolder(FileSystem& files, const std::string& from, const std::string& to) {
+    files.CreateFolder(to);
+    files.LookAgain();
+    for (const FolderEntry& entry : files.ListFolder(from)) {
+        const std::string source = from + "/" + entry.name;
+        const std::string target = to + "/" + entry.name;
+        if (entry.isFolder) {
+            CopyFolder(files, source, target);
+        } else {
+            files.WriteBytes(target, files.ReadBytes(source));
+        }
+    }
+}
+
+// Nothing that is there is written over.
+std::string NewFolderIn(FileSystem& files, const std::string& folder) {
+    const std::string name = folder + "/Quenloft library";
+    std::string path = name;
+    for (int number = 2; files.FolderExists(path) || files.FileExists(path); ++number) {
+        path = name + " " + std::to_string(number);
+    }
+    return path;
+}
+
+// The copy's path; nothing where the user wants none or it could not be made.
+std::optional<std::string> Copy(const ServiceSet& services, const std::string& sample) {
+    if (services.dialogs.AskYesNo(kQuestion) != Answer::Yes) {
+        return std::nullopt;
+    }
+    const char* home = std::getenv("HOME");
+    const auto folder =
+        services.dialogs.ChooseFolder("Choose where your library shall lie", home ? home : "/");
+    if (!folder) {
+        return std::nullopt;
+    }
+    try {
+        std::string target = NewFolderIn(services.files, *folder);
+        CopyFolder(services.files, sample, target);
+        return target;
+    } catch (const FileError& error) {
+        services.dialogs.ShowMessage("The sample library could not be copied. " +
+                                         std::string(error.what()) +
+                                         ".\r\nIt is shown where it is installed; you can choose "
+                                         "another library under File, Settings.",
+                                     MessageIcon::Warning);
+        return std::nullopt;
+    }
+}
+
+}  // namespace
+
+void OfferSampleLibrary(const ServiceSet& services, const std::string& sharedFolder) {
+    ProfileFile& profile = services.profile;
+    const std::string file = profile.GetProfileFileName();
+    if (sharedFolder.empty() || !profile.ReadProfileString(kSection, kKey, "", file).empty()) {
+        return;
+    }
+    const std::string sample = sharedFolder + "/library";
+    if (!profile.WriteProfileString(kSection, kKey, Copy(services, sample).value_or(sample),
+                                    file)) {
+        services.dialogs.ShowMessage("The settings cannot be kept: " +
+                                         services.files.NativePath(file) + " cannot be written.",
+                                     MessageIcon::Warning);
+    }
+}
+
+}  // namespace quenloft

@@ -1,0 +1,144 @@
+// The files that were opened last, and the files that are handed to the program.
+#include <QDropEvent>
+#include <QMenu>
+#include <QMimeData>
+#include <QUrl>
+
+#include "generators/list_single_window.h"
+#include "generators/script_window.h"
+#include "shell/form_names.h"
+#include "shell/sample_library.h"
+#include "tests/support/windows_fixture.h"
+
+namespace quenloft {
+namespace {
+
+class Documents : public WindowsFixture {
+  protected:
+    Documents() {
+        folder.Write("orcs.tbl",
+                     "Orcs\xA4"
+                     "1\r\n1\xA7"
+                     "An orc.\r\n");
+        folder.Write("day.SPT", "A day.\r\n");
+    }
+    template <typename Window>
+    static ChildWindow* Make(Workspace& workspace) {
+        return new Window(workspace);
+    }
+    std::vector<WindowKind> Kinds() {
+        return {{form::kSingleList, Instances::Many, Make<frmListSingle>},
+                {form::kScript, Instances::Many, Make<frmScript>}};
+    }
+    static QStringList RecentEntries(const frmMain& window) {
+        auto* menu = window.findChild<QMenu*>("mnuFile_Recent");
+        emit menu->aboutToShow();
+        QStringList entries;
+        for (const QAction* action : menu->actions()) {
+            entries << action->text();
+        }
+        return entries;
+    }
+};
+
+TEST_F(Documents, OpenInTheWindowThatFitsAndRun) {
+    frmMain window(Services(), Kinds());
+    ShowMainWindow(window);
+    window.OpenDocument(folder.Path("orcs.tbl"));
+    EXPECT_NE(window.findChild<frmListSingle*>()->Export().find("An orc."), std::string::npos);
+    window.OpenDocument(folder.Path("day.SPT"));
+    EXPECT_NE(window.findChild<frmScript*>()->Export().find("A day."), std::string::npos);
+    dialogs.WillConfirm();
+    window.OpenDocument(folder.Path("a.png"));
+    EXPECT_EQ(dialogs.TakeLog(),
+              std::vector<std::string>{"warning: " + folder.Path("a.png") +
+                                       " cannot be opened: it is neither a table (*.tbl) nor a "
+                                       "script (*.spt) nor notes (*.rtf)."});
+}
+
+TEST_F(Documents, OpenWhenTheyAreDroppedOnTheMainWindow) {
+    frmMain window(Services(), Kinds());
+    ShowMainWindow(window);
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(QString::fromStdString(folder.Path("orcs.tbl"))),
+                  QUrl::fromLocalFile(QString::fromStdString(folder.Path("day.SPT")))});
+    QDragEnterEvent enter({9, 9}, Qt::MoveAction | Qt::CopyAction, &data, Qt::LeftButton, {});
+    enter.ignore();
+    QCoreApplication::sendEvent(&window, &enter);
+    ASSERT_TRUE(enter.isAccepted());
+    QDropEvent drop(QPointF(9, 9), Qt::MoveAction | Qt::CopyAction, &data, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(&window, &drop);
+    EXPECT_EQ(drop.dropAction(), Qt::CopyAction);
+    EXPECT_TRUE(window.findChild<frmListSingle*>());
+    EXPECT_TRUE(window.findChild<frmScript*>());
+}
+
+TEST_F(Documents, AreTheRecentFilesAfterARestart) {
+    {
+        frmMain window(Services(), Kinds());
+        EXPECT_EQ(RecentEntries(window), QStringList{"No files yet"});
+        for (int i = 0; i < 11; ++i) {
+            window.NoteRecentFile(folder.Path("t" + std::to_string(i) + ".tbl"));
+        }
+        window.NoteRecentFile(folder.Path("a&b.tbl"));
+        window.NoteRecentFile(folder.Path("orcs.tbl"));
+        window.NoteRecentFile(folder.Path("a&b.tbl"));
+        window.close();
+    }
+    frmMain window(Services(), Kinds());
+    ShowMainWindow(window);
+    EXPECT_EQ(RecentEntries(window),
+              QStringList({"&1 a&&b.tbl", "&2 orcs.tbl", "&3 t10.tbl", "&4 t9.tbl", "&5 t8.tbl",
+                           "&6 t7.tbl", "&7 t6.tbl", "&8 t5.tbl", "&9 t4.tbl", "&0 t3.tbl"}));
+    window.findChild<QMenu*>("mnuFile_Recent")->actions().at(1)->trigger();
+    EXPECT_TRUE(window.findChild<frmListSingle*>());
+}
+
+class FirstStart : public WindowsFixture {
+  protected:
+    FirstStart() {
+        folder.Write("share/library/Places/inn.tbl",
+                     "Inn\xA4"
+                     "1\r\n");
+    }
+
+    std::string Libpath() {
+        return profile.ReadProfileString("Settings", "Libpath", "", profile.GetProfileFileName());
+    }
+};
+
+TEST_F(FirstStart, CopiesTheSampleLibraryWhereTheUserWantsIt) {
+    folder.Write("home/Quenloft library/mine.tbl", "Mine");
+    dialogs.WillAnswer(Answer::Yes);
+    dialogs.WillGive(folder.Path("home"));
+    OfferSampleLibrary(Services(), folder.Path("share"));
+    EXPECT_EQ(Libpath(), folder.Path("home/Quenloft library 2"));
+    EXPECT_EQ(folder.Read("home/Quenloft library 2/Places/inn.tbl"),
+              "Inn\xA4"
+              "1\r\n");
+    OfferSampleLibrary(Services(), folder.Path("share"));  // Never a second time.
+    dialogs.TakeLog();
+}
+
+TEST_F(FirstStart, ShowsTheInstalledSampleWhereNoCopyIsMade) {
+    dialogs.WillAnswer(Answer::No);
+    OfferSampleLibrary(Services(), folder.Path("share"));
+    EXPECT_EQ(Libpath(), folder.Path("share/library"));
+    dialogs.TakeLog();
+}
+
+TEST_F(FirstStart, SaysWhyTheCopyFailed) {
+    dialogs.WillAnswer(Answer::Yes);
+    dialogs.WillGive(folder.Path("gone"));
+    dialogs.WillConfirm();
+    OfferSampleLibrary(Services(), folder.Path("share"));
+    EXPECT_EQ(dialogs.TakeLog().back(),
+              "warning: The sample library could not be copied. Path not found: " +
+                  folder.Path("gone/Quenloft library") +
+                  ".\r\nIt is shown where it is installed; you can choose another library under "
+                  "File, Settings.");
+    EXPECT_EQ(Libpath(), folder.Path("share/library"));
+}
+
+}  // namespace
+}  // namespace quenloft
