@@ -1,5 +1,6 @@
 // The port to everything that asks or tells the user something in a window of its own.
-// All boxes carry the program title string; all text is UTF-8, all paths are native.
+// All boxes carry the program title string unless they are given a title; all text is UTF-8, all
+// paths are native.
 #pragma once
 
 #include <optional>
@@ -28,9 +29,10 @@ class Dialogs {
     virtual Answer AskYesNo(const std::string& text) = 0;
     /// A question box with Yes, No and Cancel; closing it means Cancel.
     virtual Answer AskYesNoCancel(const std::string& text) = 0;
-    /// One line of text; nothing on Cancel.
+    /// One line of text; nothing on Cancel. An empty `title` is the program title string.
     virtual std::optional<std::string> AskText(const std::string& prompt,
-                                               const std::string& defaultText) = 0;
+                                               const std::string& defaultText,
+                                               const std::string& title = {}) = 0;
     /// `filter` is a list of "Caption|pattern;pattern" pairs joined by "|"
     /// ("Table (*.tbl)|*.tbl|All files (*.*)|*.*"). Nothing on Cancel. `folder` is where to begin.
     virtual std::optional<std::string> ChooseFileToOpen(const std::string& filter,

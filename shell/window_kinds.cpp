@@ -7,6 +7,7 @@
 #include "dice/probability_window.h"
 #include "dice/shadowrun_window.h"
 #include "dice/simulation_on.h"
+#include "editors/importer/importer_window.h"
 #include "editors/table/table_window.h"
 #include "explorer/explorer_window.h"
 #include "generators/list_single_window.h"
@@ -47,6 +48,7 @@ std::vector<WindowKind> MakeWindowKinds(SystemRandomSource& random) {
         {form::kShadowrunProbability, Instances::Many,
          MakeWith<frmShadowrunProbability>(simulation)},
         {form::kDrovemark, Instances::Many, MakeWith<frmDrovemark>(simulation)},
+        {form::kImportTable, Instances::Many, Make<frmImportTable>},
     };
 }
 

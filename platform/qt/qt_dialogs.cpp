@@ -89,9 +89,10 @@ Answer QtDialogs::AskYesNoCancel(const std::string& text) {
 }
 
 std::optional<std::string> QtDialogs::AskText(const std::string& prompt,
-                                              const std::string& defaultText) {
+                                              const std::string& defaultText,
+                                              const std::string& title) {
     QInputDialog dialog(DialogParent());
-    dialog.setWindowTitle(ToQt(ProgramTitle()));
+    dialog.setWindowTitle(ToQt(title.empty() ? ProgramTitle() : title));
     dialog.setLabelText(ToQt(prompt));
     for (QLabel* label : dialog.findChildren<QLabel*>()) {
         label->setTextFormat(Qt::PlainText);

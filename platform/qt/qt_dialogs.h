@@ -12,8 +12,8 @@ class QtDialogs : public Dialogs {
     void ShowMessage(const std::string& text, MessageIcon icon) override;
     Answer AskYesNo(const std::string& text) override;
     Answer AskYesNoCancel(const std::string& text) override;
-    std::optional<std::string> AskText(const std::string& prompt,
-                                       const std::string& defaultText) override;
+    std::optional<std::string> AskText(const std::string& prompt, const std::string& defaultText,
+                                       const std::string& title = {}) override;
     std::optional<std::string> ChooseFileToOpen(const std::string& filter,
                                                 const std::string& folder) override;
     std::optional<std::string> ChooseFileToSave(const std::string& filter, const std::string& path,

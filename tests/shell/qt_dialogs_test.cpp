@@ -77,11 +77,15 @@ TEST_F(QtDialogsTest, ALineOfTextStartsWithTheDefault) {
     InNext<QInputDialog>([](QInputDialog& dialog) {
         EXPECT_EQ(dialog.findChild<QLabel*>()->textFormat(), Qt::PlainText);
         EXPECT_EQ(dialog.textValue(), "New Folder");
+        EXPECT_EQ(dialog.windowTitle(), "Table Import");
         dialog.setTextValue("Gr\u00FCn");
         dialog.accept();
     });
-    EXPECT_EQ(dialogs.AskText("<Name>", "New Folder"), "Gr\xC3\xBCn");
-    InNext<QInputDialog>([](QInputDialog& dialog) { dialog.reject(); });
+    EXPECT_EQ(dialogs.AskText("<Name>", "New Folder", "Table Import"), "Gr\xC3\xBCn");
+    InNext<QInputDialog>([](QInputDialog& dialog) {
+        EXPECT_EQ(dialog.windowTitle().toStdString(), ProgramTitle());
+        dialog.reject();
+    });
     EXPECT_EQ(dialogs.AskText("Name", ""), std::nullopt);
 }
 

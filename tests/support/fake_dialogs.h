@@ -38,9 +38,10 @@ class FakeDialogs : public Dialogs {
     Answer AskYesNoCancel(const std::string& text) override {
         return Next<Answer>("yes, no or cancel: " + text).value_or(Answer::Cancel);
     }
-    std::optional<std::string> AskText(const std::string& prompt,
-                                       const std::string& defaultText) override {
-        return Next<std::string>("text: " + prompt + " [" + defaultText + "]");
+    std::optional<std::string> AskText(const std::string& prompt, const std::string& defaultText,
+                                       const std::string& title) override {
+        return Next<std::string>("text: " + prompt + " [" + defaultText + "]" +
+                                 (title.empty() ? "" : " titled " + title));
     }
     std::optional<std::string> ChooseFileToOpen(const std::string& filter,
                                                 const std::string& folder) override {
