@@ -9,6 +9,7 @@
 #include "dice/simulation_on.h"
 #include "editors/importer/importer_window.h"
 #include "editors/table/table_window.h"
+#include "editors/text/text_window.h"
 #include "explorer/explorer_window.h"
 #include "generators/list_single_window.h"
 #include "generators/lists_window.h"
@@ -44,6 +45,7 @@ std::vector<WindowKind> MakeWindowKinds(SystemRandomSource& random) {
         {form::kDice, Instances::One,
          [&random](Workspace& workspace) { return new frmDice(workspace, random); }},
         {form::kEditTable, Instances::Many, Make<frmEdit_Table>},
+        {form::kEdit, Instances::Many, Make<frmEdit>},
         {form::kProbability, Instances::Many, MakeWith<frmProbability>(simulation)},
         {form::kShadowrunProbability, Instances::Many,
          MakeWith<frmShadowrunProbability>(simulation)},
