@@ -19,9 +19,15 @@ void Clear(QMenu& menu) {
     }
 }
 
+/// As its frame shows it: "[*]" stands for the mark of a changed window, "[*][*]" for itself.
+QString TitleOf(const QMdiSubWindow& window) {
+    QStringList parts = window.windowTitle().split(QStringLiteral("[*][*]"));
+    const QLatin1String mark(window.isWindowModified() ? "*" : "");
+    return parts.replaceInStrings(QStringLiteral("[*]"), mark).join(QStringLiteral("[*]"));
+}
+
 QString CaptionOf(const QMdiSubWindow& window, int number) {
-    QString title = window.windowTitle();
-    title.replace(QLatin1String("[*]"), QLatin1String(window.isWindowModified() ? "*" : ""));
+    QString title = TitleOf(window);
     title.replace(u'&', QLatin1String("&&")).replace(u'\t', u' ');  // A tab begins a shortcut.
     constexpr int kDigits = 9;
     return QStringLiteral("%1%2 %3")

@@ -32,7 +32,8 @@ std::vector<ScriptReport> FindScriptReports(std::string_view output) {
          begin = output.find(kBegin)) {
         output.remove_prefix(begin + kBegin.size());
         std::string_view rest = output;
-        ScriptReport report{std::string(TakeLine(rest))};
+        ScriptReport report;
+        report.path = TakeLine(rest);
         const std::string_view line = TakeBehind(kLine, rest);
         const auto number = std::from_chars(line.data(), line.data() + line.size(), report.line);
         report.description = TakeBehind(kDescription, rest);

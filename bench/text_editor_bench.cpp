@@ -1,0 +1,119 @@
+// A script of 10 MB in the text editor: how long it takes from the path to the painted window, with
+// a bare QPlainTextEdit that gets the same text as the floor (the goal is 1.5 times that), and one
+// typed letter with colouring on and everything painted (the goal is 16 ms).
+#include <QApplication>
+#include <QPlainTextEdit>
+#include <QTest>
+#include <QTextBlock>
+#include <benchmark/benchmark.h>
+
+#include "editors/text/code_box.h"
+#include "editors/text/text_window.h"
+#include "engine/engine.h"
+#include "platform/linux/linux_file_system.h"
+#include "platform/linux/linux_profile_file.h"
+#include "platform/linux/system_random_source.h"
+#include "platform/qt/qt_text.h"
+#include "shell/form_names.h"
+#include "shell/main_window.h"
+#include "shell/qt_engine_host.h"
+#include "tests/support/fake_devices.h"
+#include "tests/support/fake_dialogs.h"
+#include "tests/support/temp_folder.h"
+
+namespace quenloft {
+namespace {
+
+constexpr int kLines = 300'000;
+
+std::string Script() {
+    std::string text;
+    for (int i = 0; i < kLines; ++i) {
+        text += "The @2d6@ guards of ??town?? #names#\r\n";
+    }
+    return text;
+}
+
+/// The program around one editor.
+class EditorOnScreen {
+  public:
+    EditorOnScreen() {
+        folder_.Write("script.spt", Script());
+        window_.resize(kSize);
+        window_.show();
+    }
+
+    frmEdit* Open() {
+        auto* editor = qobject_cast<frmEdit*>(window_.Open(form::kEdit));
+        editor->Load(folder_.Path("script.spt"));
+        QApplication::processEvents();
+        return editor;
+    }
+
+    static constexpr QSize kSize{1280, 800};
+
+  private:
+    TempFolder folder_;
+    LinuxFileSystem files_;
+    LinuxProfileFile profile_{files_, folder_.Path("quenloft"), folder_.Path("config")};
+    SystemRandomSource random_;
+    FakeDialogs dialogs_;
+    FakeClipboard clipboard_;
+    FakePrinter printer_;
+    FakeDesktop desktop_;
+    QtEngineHost host_{dialogs_};
+    Engine engine_{files_, random_, host_};
+    frmMain window_{{engine_, host_, files_, profile_, dialogs_, clipboard_, printer_, desktop_},
+                    {{form::kEdit, Instances::Many,
+                      [](Workspace& workspace) { return new frmEdit(workspace); }}}};
+};
+
+void OpenInBareBox(benchmark::State& state) {
+    const QString text = ToQt(Script());
+    for (auto _ : state) {
+        QPlainTextEdit box;
+        box.resize(EditorOnScreen::kSize);
+        box.setLineWrapMode(QPlainTextEdit::NoWrap);
+        box.show();
+        box.setPlainText(text);
+        QApplication::processEvents();
+    }
+}
+BENCHMARK(OpenInBareBox)->Unit(benchmark::kMillisecond)->UseRealTime()->MinTime(3);
+
+void OpenInEditor(benchmark::State& state) {
+    EditorOnScreen screen;
+    for (auto _ : state) {
+        frmEdit* editor = screen.Open();
+        editor->CloseUnasked();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+}
+BENCHMARK(OpenInEditor)->Unit(benchmark::kMillisecond)->UseRealTime()->MinTime(3);
+
+/// Argument: the line that is typed in.
+void TypeLetter(benchmark::State& state) {
+    EditorOnScreen screen;
+    frmEdit* editor = screen.Open();
+    auto* box = editor->findChild<CodeBox*>();
+    box->setTextCursor(
+        QTextCursor(box->document()->findBlockByNumber(static_cast<int>(state.range(0)))));
+    QApplication::processEvents();
+    for (auto _ : state) {
+        QTest::keyClick(box, Qt::Key_A);
+        QApplication::processEvents();
+    }
+    editor->CloseUnasked();
+}
+BENCHMARK(TypeLetter)->Arg(kLines / 2)->Arg(kLines)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+}  // namespace
+}  // namespace quenloft
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

@@ -1,0 +1,444 @@
+// The text editor, with runners that record.
+#include "editors/text/text_window.h"
+
+#include <QFile>
+#include <QInputMethodEvent>
+#include <QLabel>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QPushButton>
+#include <QTextBlock>
+#include <csignal>
+#include <sys/resource.h>
+
+#include "editors/text/code_box.h"
+#include "editors/text/text_search.h"
+#include "engine/program_title.h"
+#include "engine/value.h"
+#include "shell/form_names.h"
+#include "tests/support/recording_window.h"
+#include "tests/support/windows_fixture.h"
+
+namespace quenloft {
+namespace {
+
+class TextEditorTest : public WindowsFixture {
+  protected:
+    TextEditorTest() { ShowMainWindow(window); }
+
+    std::vector<WindowKind> Kinds() {
+        const auto recorder = [this](const char* formName) {
+            return WindowKind{formName, Instances::Many, [this, formName](Workspace& workspace) {
+                                  runner = new RecordingWindow(workspace, formName);
+                                  runner->exported = runnerOutput;
+                                  return runner;
+                              }};
+        };
+        const auto choose = [this](Workspace&, const std::string& from, QWidget*) {
+            chosenFrom.push_back(from);
+            return reference;
+        };
+        return {{form::kEdit, Instances::Many,
+                 [choose](Workspace& workspace) { return new frmEdit(workspace, choose); }},
+                recorder(form::kScript),
+                recorder(form::kSingleList)};
+    }
+    ChildWindow* Load(const std::string& name, const std::string& bytes) {
+        folder.Write(name, bytes);
+        ChildWindow* editor = window.Open(form::kEdit);
+        editor->Load(folder.Path(name));
+        return editor;
+    }
+    static CodeBox& Box(const ChildWindow* editor) { return *editor->findChild<CodeBox*>(); }
+    static std::string Text(const ChildWindow* editor) { return Box(editor).Lines(); }
+    static void Type(const ChildWindow* editor, const QString& text) {
+        QTest::keyClicks(&Box(editor), text);
+    }
+    static void Click(const ChildWindow* editor, const char* button) {
+        editor->findChild<QPushButton*>(button)->click();
+    }
+    static std::string CaretLine(const ChildWindow* editor) {
+        return editor->findChild<QLabel*>("lblCursorAtLine")->text().toStdString();
+    }
+    std::string Title(const ChildWindow* editor) {
+        return editor->windowTitle().toStdString() + (editor->isWindowModified() ? " changed" : "");
+    }
+    static void LetWindowsClose() {
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    std::string reference;
+    std::vector<std::string> chosenFrom;
+    std::string runnerOutput;
+    QPointer<RecordingWindow> runner;
+    frmMain window{Services(), Kinds()};
+};
+
+TEST_F(TextEditorTest, OpeningAndSavingChangesNoByte) {
+    std::string allBytes;
+    for (int c = 0; c < 256; ++c) {
+        allBytes += static_cast<char>(c);
+    }
+    const std::string contents[] = {
+        "",
+        "a\nb",
+        "a\r\nb\n\rc\r\n\r\n",
+        allBytes,
+        "\xEF\xBB\xBF\xEF\xBB\xBFmark\n",
+        "\xE2\x80\xA9 \xE2\x80\xA8 \xEF\xB7\x90\xEF\xB7\x91\xE2\x81\xAF\xEF\xBF\xBC\xC2\xA0\n",
+        std::string(100'000, 'x') + "\n" + std::string(10'000, ' '),
+    };
+    for (const std::string& bytes : contents) {
+        ChildWindow* editor = Load("a.tbl", bytes);
+        Click(editor, "btnSave");
+        EXPECT_EQ(folder.Read("a.tbl"), bytes);
+        editor->CloseUnasked();
+        LetWindowsClose();
+    }
+}
+
+TEST_F(TextEditorTest, ShowsFileChangesAndTheLineWhereTheSelectionEnds) {
+    ChildWindow* editor = Load("a[*] & b.spt", "one\r\n" + std::string(9000, 'x') + "\r\nthree");
+    const std::string caption = "Table & Script Editor ..\\" + folder.Path("a[*][*] & b.spt[*]");
+    EXPECT_EQ(Title(editor), caption);
+    EXPECT_EQ(CaretLine(editor), "1");
+    QTest::keyClick(&Box(editor), Qt::Key_End, Qt::ControlModifier);
+    EXPECT_EQ(CaretLine(editor), "3");
+    Type(editor, "!");
+    EXPECT_EQ(Title(editor), caption + " changed");
+    Box(editor).undo();
+    EXPECT_EQ(Title(editor), caption) << "undone back to what is saved";
+    QTextCursor upwards(Box(editor).document());
+    upwards.movePosition(QTextCursor::End);
+    upwards.setPosition(0, QTextCursor::KeepAnchor);
+    Box(editor).setTextCursor(upwards);
+    EXPECT_EQ(CaretLine(editor), "3");
+    auto* windows = window.findChild<QMenu*>("mnuWindow");
+    emit windows->aboutToShow();
+    EXPECT_EQ(windows->actions().last()->text().toStdString(),
+              "&1 Table && Script Editor ..\\" + folder.Path("a[*] && b.spt"));
+}
+
+TEST_F(TextEditorTest, SavesWhereItIsToldAndKeepsWhatItCannotSave) {
+    ChildWindow* editor = window.Open(form::kEdit);
+    Type(editor, "a");
+    dialogs.WillCancel();
+    QTest::keyClick(&Box(editor), Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(Title(editor), "Table & Script Editor[*] changed");
+    dialogs.WillGive(folder.Path("missing/a.spt"));
+    dialogs.WillConfirm();
+    Click(editor, "btnSave");
+    EXPECT_EQ(Title(editor), "Table & Script Editor[*] changed");
+    dialogs.WillGive(folder.Path("a.tbl"));
+    Click(editor, "btnSaveAs");
+    EXPECT_EQ(folder.Read("a.tbl"), "a");
+    QTest::keyClick(&Box(editor), Qt::Key_Return);
+    Click(editor, "btnSave");
+    EXPECT_EQ(folder.Read("a.tbl"), "a\r\n");
+    dialogs.WillCancel();
+    QTest::keyClick(&Box(editor), Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+    const std::string filter = "save: Scripts(*.spt)|*.spt|Table(*.tbl)|*.tbl|All files(*.*)|*.*";
+    EXPECT_EQ(dialogs.TakeLog(),
+              (std::vector<std::string>{
+                  filter + " at " + folder.Path(), filter + " at " + folder.Path(),
+                  "warning: Path not found: " + folder.Path("missing/a.spt") + ".",
+                  filter + " at " + folder.Path(), filter + " from 2 at " + folder.Path("a.tbl")}));
+}
+
+TEST_F(TextEditorTest, AFullDiskCostsNothing) {
+    ChildWindow* editor = Load("a.spt", "old");
+    Box(editor).SetText(std::string(100'000, 'n'));
+    Box(editor).document()->setModified(true);
+    std::signal(SIGXFSZ, SIG_IGN);
+    rlimit former{};
+    getrlimit(RLIMIT_FSIZE, &former);
+    const rlimit small{1000, former.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &small);
+    dialogs.WillConfirm();
+    Click(editor, "btnSave");
+    setrlimit(RLIMIT_FSIZE, &former);
+    EXPECT_EQ(folder.Read("a.spt"), "old");
+    EXPECT_TRUE(editor->isWindowModified());
+    EXPECT_EQ(dialogs.TakeLog().size(), 1U);
+    editor->CloseUnasked();
+}
+
+TEST_F(TextEditorTest, EveryWayOutAsksForUnsavedText) {
+    const std::string question = "yes, no or cancel: Script not saved!\r\nSave script now?";
+    const auto leave = [this](ChildWindow* editor, int way) {
+        const std::function<void()> ways[] = {
+            [&] { editor->CloseWindow(); }, [&] { Click(editor, "btnOpen"); },
+            [&] { editor->Load(folder.Path("b.spt")); }, [&] { window.CloseAll(); }};
+        ways[way]();
+        LetWindowsClose();
+    };
+    for (int way = 0; way < 4; ++way) {
+        const QPointer<ChildWindow> editor = Load("a.spt", "old");
+        Type(editor, "new");
+        dialogs.WillAnswer(Answer::Cancel);
+        leave(editor, way);
+        ASSERT_TRUE(editor) << way;
+        EXPECT_EQ(Text(editor), "newold");
+        dialogs.WillAnswer(Answer::Yes);
+        if (way == 1) {
+            dialogs.WillCancel();
+        }
+        if (way == 2) {
+            dialogs.WillConfirm();
+        }
+        leave(editor, way);
+        EXPECT_EQ(folder.Read("a.spt"), "newold") << way;
+        EXPECT_EQ(dialogs.TakeLog()[0], question);
+        if (editor) {
+            editor->CloseUnasked();
+            LetWindowsClose();
+        }
+    }
+}
+
+TEST_F(TextEditorTest, NewAsksAsItShouldAndUndoBringsTheTextBack) {
+    ChildWindow* editor = Load("a.spt", "old");
+    Type(editor, "new");
+    dialogs.WillAnswer(Answer::No);
+    Click(editor, "btnNew");
+    EXPECT_EQ(dialogs.TakeLog(), std::vector<std::string>{"yes or no: Do You want to save file " +
+                                                          folder.Path("a.spt") + " ?"});
+    EXPECT_EQ(Text(editor) + Title(editor), "Table & Script Editor[*]");
+    Box(editor).undo();
+    EXPECT_EQ(Text(editor) + Title(editor), "newoldTable & Script Editor[*] changed");
+    dialogs.WillAnswer(Answer::Cancel);
+    Click(editor, "btnNew");
+    EXPECT_EQ(Text(editor), "newold");
+    EXPECT_EQ(dialogs.TakeLog().size(), 1U) << "text without a file is asked for as well";
+    EXPECT_EQ(folder.Read("a.spt"), "old");
+    editor->CloseUnasked();
+}
+
+TEST_F(TextEditorTest, DeletesTheFileAndKeepsTheText) {
+    ChildWindow* editor = Load("a.spt", "text");
+    dialogs.WillAnswer(Answer::No);
+    Click(editor, "btnDelete");
+    EXPECT_EQ(folder.Read("a.spt"), "text");
+    EXPECT_EQ(dialogs.TakeLog(),
+              std::vector<std::string>{"yes or no: Do You really want to delete " +
+                                       folder.Path("a.spt") + " ?"});
+    dialogs.WillAnswer(Answer::Yes);
+    Click(editor, "btnDelete");
+    EXPECT_EQ(desktop.trashed, std::vector<std::string>{folder.Path("a.spt")});
+    EXPECT_FALSE(files.FileExists("a.spt"));
+    EXPECT_EQ(Text(editor) + Title(editor), "textTable & Script Editor[*] changed");
+    EXPECT_FALSE(editor->findChild<QPushButton*>("btnDelete")->isEnabled());
+    editor->CloseUnasked();
+}
+
+TEST_F(TextEditorTest, AFileThatCannotBeReadLeavesTheTextAlone) {
+    ChildWindow* editor = Load("a.spt", "text");
+    dialogs.WillGive(folder.Path("gone.tbl"));
+    dialogs.WillConfirm();
+    editor->OpenFile();
+    EXPECT_EQ(dialogs.TakeLog(),
+              (std::vector<std::string>{
+                  "open: Scripts(*.spt)|*.spt|Table(*.tbl)|*.tbl|All files(*.*)|*.* in " +
+                      folder.Path() + "/",
+                  "warning: Errors in table \r\n" + folder.Path("gone.tbl") +
+                      "\r\nFile not found: " + folder.Path("gone.tbl") + "."}));
+    EXPECT_EQ(Text(editor), "text");
+}
+
+TEST_F(TextEditorTest, ATypedNumberSignOpensTheBrowser) {
+    ChildWindow* editor = window.Open(form::kEdit);
+    dialogs.WillConfirm();
+    Type(editor, "a#");
+    EXPECT_EQ(Text(editor), "a#");
+    EXPECT_EQ(dialogs.TakeLog(),
+              std::vector<std::string>{"warning: In order to display the full resource list, the "
+                                       "script must be saved first!"});
+    dialogs.WillGive(folder.Path("lib.spt"));
+    Click(editor, "btnSave");
+    Type(editor, "#");
+    EXPECT_EQ(Text(editor), "a#") << "cancelled";
+    reference = "#{~}Orcs{^}2#";
+    QTest::keyClick(&Box(editor), Qt::Key_Backslash, Qt::NoModifier);
+    QKeyEvent otherLayout(QEvent::KeyPress, Qt::Key_NumberSign, Qt::GroupSwitchModifier, "#");
+    QCoreApplication::sendEvent(&Box(editor), &otherLayout);
+    EXPECT_EQ(Text(editor), "a#\\#~Orcs^2#");
+    Box(editor).undo();
+    EXPECT_EQ(Text(editor), "a#\\");
+    QInputMethodEvent composed;
+    composed.setCommitString("#");
+    QCoreApplication::sendEvent(&Box(editor), &composed);
+    EXPECT_EQ(Text(editor), "a#\\#~Orcs^2#");
+    EXPECT_EQ(chosenFrom, std::vector<std::string>(3, folder.Path() + "/"));
+    clipboard.text = "#pasted#";
+    Choose(window, "mnuEdit_Paste");
+    EXPECT_EQ(Text(editor), "a#\\#~Orcs^2##pasted#");
+    EXPECT_EQ(chosenFrom.size(), 3U) << "what is not typed opens nothing";
+    editor->CloseUnasked();
+    dialogs.TakeLog();
+}
+
+TEST_F(TextEditorTest, RunsTheSavedFileInOneWindow) {
+    ChildWindow* editor = Load("a.spt", "text");
+    QTest::keyClick(&Box(editor), Qt::Key_F5);
+    const QPointer<RecordingWindow> first = runner;
+    ASSERT_TRUE(first);
+    for (const Answer answer : {Answer::Cancel, Answer::No, Answer::Yes}) {
+        Type(editor, "x");
+        dialogs.WillAnswer(answer);
+        Click(editor, "btnRun");
+    }
+    const std::string load = "load " + folder.Path("a.spt");
+    EXPECT_EQ(first->asked, (std::vector<std::string>{load, "run", load, "run", load, "run"}));
+    EXPECT_EQ(folder.Read("a.spt"), "xxxtext");
+    EXPECT_EQ(runner, first);
+    first->CloseWindow();
+    LetWindowsClose();
+    Click(editor, "btnRun");
+    EXPECT_TRUE(runner) << "a new one, since the first was closed";
+    dialogs.TakeLog();
+}
+
+TEST_F(TextEditorTest, TablesRunInASingleListAndTheWindowMayCloseMeanwhile) {
+    const QPointer<ChildWindow> editor = Load("b.tbl", "T\xA4");
+    Click(editor, "btnRun");
+    EXPECT_EQ(runner->FormName(), form::kSingleList);
+    runner->onRun = [&] {
+        editor->CloseWindow();
+        LetWindowsClose();
+        delete editor;
+    };
+    editor->Run();
+    EXPECT_FALSE(editor);
+}
+
+TEST_F(TextEditorTest, MarksTheLineThatARunReportsUntilItIsChanged) {
+    runnerOutput = "Errors in script \r\n" + folder.LibraryPath("a.spt") +
+                   "\r\nLine :3\r\nError description :Overflow\r\nCurrent Directory :Z:\\";
+    ChildWindow* editor = Load("a.spt", std::string(9000, 'x') + "\ntwo\nthree\nfour");
+    auto* report = editor->findChild<QLabel*>("lblReport");
+    Click(editor, "btnRun");
+    EXPECT_EQ(report->text(), "Line 3: Overflow");
+    EXPECT_TRUE(report->isVisible());
+    EXPECT_EQ(Box(editor).textCursor().block().text(), "three");
+    EXPECT_EQ(CaretLine(editor), "3");
+    EXPECT_EQ(Box(editor).extraSelections().size(), 2);
+    QTest::keyClick(&Box(editor), Qt::Key_Up);
+    Type(editor, "x");
+    EXPECT_TRUE(report->isVisible());
+    QTest::keyClick(&Box(editor), Qt::Key_Down);
+    Type(editor, "x");
+    EXPECT_FALSE(report->isVisible());
+    EXPECT_EQ(Box(editor).extraSelections().size(), 1);
+    editor->CloseUnasked();
+}
+
+TEST_F(TextEditorTest, AFileIsEditedInOneWindow) {
+    ChildWindow* editor = Load("a.spt", "text");
+    const QPointer<ChildWindow> second = window.Open(form::kEdit);
+    second->Load(folder.LibraryPath("A.SPT"));
+    LetWindowsClose();
+    EXPECT_FALSE(second);
+    EXPECT_EQ(window.findChild<QMdiArea*>()->currentSubWindow()->widget(), editor);
+}
+
+TEST_F(TextEditorTest, ExportsTextAndFooter) {
+    const std::string exported = Load("a.spt", "one\ntwo\n")->Export();
+    const std::string now = DateTimeText();
+    EXPECT_EQ(exported.substr(0, exported.size() - 5),
+              "one\r\ntwo\r\n\r\n\r\nFilename : a.spt\r\nPrinted by " + ProgramTitle() + " " +
+                  now.substr(0, now.size() - 5));
+}
+
+TEST_F(TextEditorTest, TakesInsertedTextAndLetsTheKeyboardOut) {
+    ChildWindow* editor = Load("a.spt", "text");
+    Box(editor).setFocus();
+    EXPECT_EQ(window.InsertionTarget(), &Box(editor));
+    QTest::keyClick(&Box(editor), Qt::Key_Tab);
+    EXPECT_EQ(Text(editor), "\ttext");
+    QTest::keyClick(&Box(editor), Qt::Key_Backtab);
+    EXPECT_FALSE(Box(editor).hasFocus());
+    EXPECT_EQ(Text(editor), "\ttext");
+    editor->CloseUnasked();
+}
+
+TEST_F(TextEditorTest, ColoursWhatIsSeenAndFollowsChangesAbove) {
+    ChildWindow* editor = Load("a.tbl",
+                               "T\xA4"
+                               "1\n\n1\xA7see #or\ncs# there");
+    CodeBox& box = Box(editor);
+    const auto formats = [&box](int line) {
+        box.grab();
+        QString spans;
+        for (const auto& range : box.document()->findBlockByNumber(line).layout()->formats()) {
+            spans += QString("%1+%2 ").arg(range.start).arg(range.length);
+        }
+        return spans.toStdString();
+    };
+    EXPECT_EQ(formats(0), "0+1 1+1 2+1 ");
+    EXPECT_EQ(formats(3), "0+3 ");
+    QTextCursor cursor(box.document()->findBlockByNumber(2));
+    cursor.movePosition(QTextCursor::EndOfBlock);
+    cursor.insertText("#");
+    EXPECT_EQ(formats(2), "0+1 1+1 6+4 ");
+    EXPECT_EQ(formats(3), "2+1 ") << "its mark has lost its partner";
+    EXPECT_TRUE(editor->isWindowModified());
+    box.undo();
+    EXPECT_FALSE(editor->isWindowModified()) << "colours are no change";
+    EXPECT_EQ(formats(3), "0+3 ");
+}
+
+TEST(CodeColoursTest, CanBeReadOnAnyBackground) {
+    for (const QRgb background : {0xFFFFFF, 0x1E1E1E, 0x000000, 0x808080, 0x204060, 0xFDF6E3}) {
+        QPalette palette;
+        palette.setColor(QPalette::Base, QColor(background));
+        palette.setColor(QPalette::Text, ReadableOn(QColor(background), QColor(background)));
+        const CodeColours colours(palette);
+        for (int token = 1; token <= static_cast<int>(Token::Lonely); ++token) {
+            const QColor colour = colours.FormatOf(static_cast<Token>(token)).foreground().color();
+            EXPECT_GE(Contrast(colours.CaretLine(), colour), 4.5) << token << " " << background;
+        }
+    }
+}
+
+class TextSearchTest : public testing::Test {
+  protected:
+    /// The selection after each of `times` searches, in the line's own places.
+    std::vector<int> Find(const SearchRequest& request, int times) {
+        std::vector<int> places;
+        for (int i = 0; i < times && search.FindNext(request); ++i) {
+            places.push_back(box.textCursor().selectionStart());
+        }
+        return places;
+    }
+
+    TextBox box;
+    TextSearch search{box};
+};
+
+TEST_F(TextSearchTest, FindsForwardsAndBackwardsRoundTheEnd) {
+    box.SetText("Orc orc\r\nelf orc");
+    EXPECT_EQ(Find({"orc"}, 4), (std::vector<int>{0, 4, 12, 0}));
+    EXPECT_EQ(Find({"orc", false, true}, 3), (std::vector<int>{12, 4, 0}));
+    EXPECT_EQ(Find({"orc", true}, 3), (std::vector<int>{4, 12, 4}));
+    EXPECT_EQ(Find({"troll"}, 1), std::vector<int>());
+    EXPECT_EQ(search.SelectedLine(), "orc");
+}
+
+TEST_F(TextSearchTest, ReplacesAllAsOneStepAcrossTheBreaksOfLongLines) {
+    const QString text = QString(4094, 'x') + "orc" + QString(4094, 'y') + "orc";
+    box.SetText(text.toStdString());
+    EXPECT_EQ(search.ReplaceAll({"ORC"}, "elf orc"), 2);
+    EXPECT_EQ(box.Text(), QString(text).replace("orc", "elf orc").toStdString());
+    box.undo();
+    EXPECT_EQ(box.Text(), text.toStdString());
+    EXPECT_TRUE(search.FindNext({"orc"}));
+    search.ReplaceSelected({"orc"}, "");
+    EXPECT_EQ(box.Text(), QString(text).remove(4094, 3).toStdString());
+    search.ReplaceSelected({"orc"}, "z");
+    EXPECT_EQ(box.Text(), QString(text).remove(4094, 3).toStdString()) << "nothing is selected";
+}
+
+}  // namespace
+}  // namespace quenloft
