@@ -155,8 +155,10 @@ void PasteInto(ChildWindow* child, Clipboard& clipboard) {
     }
 }
 
-bool ClipboardKeysToMenu::eventFilter(QObject* /*watched*/, QEvent* event) {
-    if (event->type() != QEvent::ShortcutOverride) {
+bool ClipboardKeysToMenu::eventFilter(QObject* watched, QEvent* event) {
+    const auto* rich = qobject_cast<QTextEdit*>(watched);
+    const bool keepsForm = rich && rich->acceptRichText() && !rich->isReadOnly();
+    if (event->type() != QEvent::ShortcutOverride || keepsForm) {
         return false;
     }
     const auto* key = static_cast<QKeyEvent*>(event);

@@ -15,7 +15,8 @@ void CutFrom(ChildWindow* child, Clipboard& clipboard);
 void PasteInto(ChildWindow* child, Clipboard& clipboard);
 
 /// Text boxes keep Ctrl+X, Ctrl+C and Ctrl+V for themselves. Installed on one, this gives them to
-/// the menu, so that key and menu do the same.
+/// the menu, so that key and menu do the same. A box for formatted text keeps them: by the keys its
+/// text keeps its form, by the menu it comes and goes as plain text.
 class ClipboardKeysToMenu : public QObject {
     Q_OBJECT
 

@@ -2,6 +2,9 @@
 
 #include <memory>
 
+#include "author/about_window.h"
+#include "author/author_window.h"
+#include "author/readme_window.h"
 #include "dice/dice_window.h"
 #include "dice/drovemark_window.h"
 #include "dice/probability_window.h"
@@ -51,6 +54,10 @@ std::vector<WindowKind> MakeWindowKinds(SystemRandomSource& random) {
          MakeWith<frmShadowrunProbability>(simulation)},
         {form::kDrovemark, Instances::Many, MakeWith<frmDrovemark>(simulation)},
         {form::kImportTable, Instances::Many, Make<frmImportTable>},
+        {form::kAuthor, Instances::Many, Make<frmAuthor>},
+        {form::kReadme, Instances::One,
+         [](Workspace& workspace) { return new frmReadme(workspace, ReadmeFolders()); }},
+        {form::kAbout, Instances::One, Make<frmAbout>},
     };
 }
 

@@ -5,6 +5,8 @@
 #include <QFile>
 #include <QPainter>
 #include <QPrintDialog>
+#include <QTextBlock>
+#include <QTextCursor>
 #include <QTextDocument>
 
 #include "platform/qt/qt_text.h"
@@ -14,19 +16,33 @@ namespace {
 
 constexpr double kMarginMm = 20;
 constexpr double kFontPoints = 10;
+// A level of a list, in dots of which an inch has 96: a quarter of an inch, as on the screen.
+constexpr double kListIndent = 24;
 // The line of the page number, and the space above it.
 constexpr double kFootLines = 2;
 
-void SetUpDocument(QTextDocument& document, QPrinter& printer, const std::string& text) {
+void SetUpDocument(QTextDocument& document, QPrinter& printer) {
     QFont font = QApplication::font();
     font.setPointSizeF(kFontPoints);
     document.setDocumentMargin(0);
     document.documentLayout()->setPaintDevice(&printer);
     document.setDefaultFont(font);
-    document.setPlainText(ToQt(text));
     QSizeF page = printer.pageLayout().paintRectPixels(printer.resolution()).size();
     page.rheight() -= kFootLines * QFontMetricsF(font, &printer).lineSpacing();
     document.setPageSize(page);
+}
+
+// The layout brings all lengths to the size of the paper but those from left to right.
+void BringMarginsToPaper(QTextDocument& document, const QPrinter& printer) {
+    constexpr double kDotsOfHtml = 96;
+    const double factor = printer.resolution() / kDotsOfHtml;
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        QTextBlockFormat format = block.blockFormat();
+        format.setLeftMargin(format.leftMargin() * factor);
+        format.setRightMargin(format.rightMargin() * factor);
+        format.setTextIndent(format.textIndent() * factor);
+        QTextCursor(block).setBlockFormat(format);
+    }
 }
 
 void DrawPage(QPainter& painter, QTextDocument& document, int page) {
@@ -74,6 +90,18 @@ bool QtPrinter::ChoosePrinter() {
 }
 
 std::string QtPrinter::PrintText(const std::string& text) {
+    return Print([&text](QTextDocument& document) { document.setPlainText(ToQt(text)); });
+}
+
+std::string QtPrinter::PrintHtml(const std::string& html) {
+    return Print([this, &html](QTextDocument& document) {
+        document.setIndentWidth(kListIndent);
+        document.setHtml(ToQt(html));
+        BringMarginsToPaper(document, *printer_);
+    });
+}
+
+std::string QtPrinter::Print(const std::function<void(QTextDocument& document)>& fill) {
     const bool toFile = printer_ && printer_->outputFormat() == QPrinter::PdfFormat;
     if (!printer_ || (toFile && printer_->outputFileName().isEmpty())) {
         return "Nothing was printed: no printer is set up. Choose \"Print to File (PDF)\" instead.";
@@ -88,7 +116,8 @@ std::string QtPrinter::PrintText(const std::string& text) {
         }
     }
     QTextDocument document;
-    SetUpDocument(document, *printer_, text);
+    SetUpDocument(document, *printer_);
+    fill(document);
     QPainter painter;
     if (!painter.begin(printer_.get())) {
         return failure + ": it does not accept print jobs.";

@@ -7,6 +7,8 @@
 
 #include "platform/printer.h"
 
+class QTextDocument;
+
 namespace quenloft {
 
 /// Lets the user set up `printer`; false on Cancel.
@@ -21,8 +23,11 @@ class QtPrinter : public Printer {
 
     bool ChoosePrinter() override;
     std::string PrintText(const std::string& text) override;
+    std::string PrintHtml(const std::string& html) override;
 
   private:
+    std::string Print(const std::function<void(QTextDocument& document)>& fill);
+
     PrinterSetUp setUp_;
     std::unique_ptr<QPrinter> printer_;  // Made when the user first prints.
 };

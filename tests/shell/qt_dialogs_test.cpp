@@ -144,5 +144,10 @@ TEST(QtDesktop, MovesAFileToTheTrash) {
     qunsetenv("XDG_DATA_HOME");
 }
 
+TEST(QtDesktop, StartsWhatIsInstalled) {
+    EXPECT_TRUE(QtDesktop().StartProgram("true", {"an argument"}));
+    EXPECT_FALSE(QtDesktop().StartProgram("quenloft-no-such-program", {}));
+}
+
 }  // namespace
 }  // namespace quenloft

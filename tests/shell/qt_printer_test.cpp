@@ -61,6 +61,17 @@ TEST_F(QtPrinterTest, BreaksTextIntoPages) {
     }
 }
 
+TEST_F(QtPrinterTest, FormattedTextKeepsItsFontsAndItsPages) {
+    QtPrinter printer = PdfPrinter(pdf);
+    ASSERT_TRUE(printer.ChoosePrinter());
+    EXPECT_EQ(printer.PrintHtml("<p style='font-size:40pt'>Large</p>"
+                                "<p style='page-break-before:always'><b>Next</b></p>"),
+              "");
+    EXPECT_EQ(PagesIn("out.pdf"), 2);
+    // Bold is a font of its own beside the one of the page numbers.
+    EXPECT_GE(QByteArray::fromStdString(folder.Read("out.pdf")).count("/Type /Font\n"), 2);
+}
+
 TEST_F(QtPrinterTest, PrintsTheChosenPagesOnly) {
     QtPrinter printer([this](QPrinter& setUp) {
         setUp.setOutputFormat(QPrinter::PdfFormat);

@@ -25,10 +25,15 @@ class FakePrinter : public Printer {
         printed.push_back(text);
         return failure;
     }
+    std::string PrintHtml(const std::string& html) override {
+        printedHtml.push_back(html);
+        return failure;
+    }
 
     bool accepts = true;
     std::string failure;
     std::vector<std::string> printed;
+    std::vector<std::string> printedHtml;
 };
 
 class FakeDesktop : public Desktop {
@@ -37,9 +42,20 @@ class FakeDesktop : public Desktop {
         trashed.push_back(nativePath);
         return hasTrash;
     }
+    bool StartProgram(const std::string& name, const std::vector<std::string>& arguments) override {
+        started.push_back(name);
+        for (const std::string& argument : arguments) {
+            started.back() += " " + argument;
+        }
+        return name == installed;
+    }
 
     bool hasTrash = false;
     std::vector<std::string> trashed;
+    /// The one program that there is.
+    std::string installed;
+    /// Every attempt, with its arguments.
+    std::vector<std::string> started;
 };
 
 }  // namespace quenloft

@@ -1,0 +1,66 @@
+#include "author/notes_file.h"
+
+#include <functional>
+
+#include "author/plain_text.h"
+#include "author/rtf_writer.h"
+#include "platform/file_system.h"
+
+namespace quenloft {
+
+NotesFile::Fingerprint::Fingerprint(std::string_view bytes)
+    : size(bytes.size()), hash(std::hash<std::string_view>()(bytes)) {}
+
+RichText NotesFile::Read(const std::string& path) {
+    const std::string bytes = files_.ReadBytes(path);
+    const bool isRtf = IsRtf(bytes);
+    RtfContent content = isRtf ? ReadRtf(bytes) : ReadPlainText(bytes);
+    path_ = files_.NativePath(path);
+    onDisk_ = Fingerprint(bytes);
+    losses_ = std::move(content.losses);
+    // An empty file becomes what is saved into it.
+    isPlainText_ = !isRtf && !bytes.empty();
+    return std::move(content.text);
+}
+
+void NotesFile::Write(const std::string& path, const RichText& text) {
+    const std::string bytes = WriteRtf(text);
+    files_.WriteBytes(path, bytes);
+    files_.LookAgain();
+    path_ = files_.NativePath(path);
+    onDisk_ = Fingerprint(bytes);
+    losses_.clear();
+    isPlainText_ = false;
+}
+
+std::vector<std::string> NotesFile::QuestionsBefore(const std::string& path) const {
+    std::vector<std::string> questions;
+    if (path_.empty() || files_.NativePath(path) != path_) {
+        return questions;
+    }
+    if (ChangedOnDisk()) {
+        questions.push_back("The file " + path_ +
+                            " was changed by another program since it was read. "
+                            "Save over these changes?");
+    }
+    if (!losses_.empty()) {
+        questions.push_back("The file " + path_ + " also holds " + NamesOf(losses_) +
+                            ", which the Author Area cannot keep. Save without them?");
+    }
+    if (isPlainText_) {
+        questions.push_back("The file " + path_ +
+                            " is plain text. Saving makes it Rich Text, which programs for plain "
+                            "text cannot read. Save?");
+    }
+    return questions;
+}
+
+bool NotesFile::ChangedOnDisk() const {
+    try {
+        return Fingerprint(files_.ReadBytes(path_)) != onDisk_;
+    } catch (const FileError&) {
+        return false;  // It is gone, or writing will tell what is wrong with it.
+    }
+}
+
+}  // namespace quenloft

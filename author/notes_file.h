@@ -1,0 +1,50 @@
+// The file behind the notes of one window.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "author/rtf_reader.h"
+
+namespace quenloft {
+
+class FileSystem;
+
+/// Reads RTF, and plain text as text without form; writes RTF. Asks nothing: what a user must be
+/// asked before the file is written over, it says.
+class NotesFile {
+  public:
+    explicit NotesFile(FileSystem& files) : files_(files) {}
+
+    /// Native; empty before the first Read or Write.
+    const std::string& Path() const { return path_; }
+
+    /// Throws FileError, and then remains as it was.
+    RichText Read(const std::string& path);
+    /// Likewise. `path` is what Path() gives from then on.
+    void Write(const std::string& path, const RichText& text);
+
+    /// What writing over Path() would destroy, as questions to be answered with yes or no, the most
+    /// serious first. None where it is `path` that is written and this another file.
+    std::vector<std::string> QuestionsBefore(const std::string& path) const;
+
+  private:
+    /// Enough to tell that a file has changed; the bytes themselves may be many.
+    struct Fingerprint {
+        explicit Fingerprint(std::string_view bytes = {});
+        bool operator==(const Fingerprint&) const = default;
+        std::size_t size;
+        std::size_t hash;
+    };
+    bool ChangedOnDisk() const;
+
+    FileSystem& files_;
+    std::string path_;
+    Fingerprint onDisk_;
+    std::vector<Loss> losses_;
+    bool isPlainText_ = false;
+};
+
+}  // namespace quenloft

@@ -1,0 +1,298 @@
+#include "author/author_window.h"
+
+#include <QClipboard>
+#include <QComboBox>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QMimeData>
+#include <QPushButton>
+#include <QTextBlock>
+#include <QToolButton>
+
+#include "author/rich_text_box.h"
+#include "author/rtf_writer.h"
+#include "shell/form_names.h"
+#include "tests/author/rich_text_outline.h"
+#include "tests/support/windows_fixture.h"
+
+namespace quenloft {
+namespace {
+
+constexpr char kQuestion[] = "Data in Author Area is not saved, save now?";
+constexpr char kFilter[] = "Rich Text (*.rtf)|*.rtf|All files (*.*)|*.*";
+using Log = std::vector<std::string>;
+
+class AuthorWindowTest : public WindowsFixture {
+  protected:
+    AuthorWindowTest() {
+        folder.Write("notes.rtf", "{\\rtf1 {\\b old} notes\\par}");
+        ShowMainWindow(window);
+        author = window.Open(form::kAuthor);
+        box = author->findChild<RichTextBox*>("rtfAuthor");
+        box->setFocus();
+    }
+
+    void Click(const char* name) { author->findChild<QAbstractButton*>(name)->click(); }
+    void Type(const char* text) { QTest::keyClicks(box, QLatin1String(text)); }
+    /// A file that was loaded and then changed by the user.
+    void LoadAndType(const std::string& name) {
+        author->Load(folder.Path(name));
+        Type("x");
+    }
+    /// Without the font, which depends on the machine.
+    std::string Outline() const {
+        RichText text = box->Text();
+        const CharFormat usual = PlainFormat();
+        for (Paragraph& paragraph : text.paragraphs) {
+            for (TextRun& run : paragraph.runs) {
+                run.format.font = run.format.font == usual.font ? "" : run.format.font;
+                run.format.halfPoints =
+                    run.format.halfPoints == usual.halfPoints ? 24 : run.format.halfPoints;
+            }
+        }
+        return OutlineOf(text);
+    }
+    static CharFormat PlainFormat() {
+        RichTextBox empty;
+        return empty.Text().paragraphs.front().endFormat;
+    }
+    std::string Plain() const { return box->toPlainText().toStdString(); }
+    bool IsChecked(const char* name) { return author->findChild<QToolButton*>(name)->isChecked(); }
+
+    frmMain window{Services(), {{form::kAuthor, Instances::Many, [](Workspace& workspace) {
+                                     return new frmAuthor(workspace);
+                                 }}}};
+    QPointer<ChildWindow> author;
+    RichTextBox* box = nullptr;
+};
+
+TEST_F(AuthorWindowTest, NotesAreSavedAndOpenedAgain) {
+    EXPECT_EQ(author->windowTitle(), "Author Area");
+    Type("a");
+    EXPECT_EQ(author->windowTitle(), "Author Area*");
+    dialogs.WillGive(folder.Path("new.rtf"));
+    Click("btnSave");
+    EXPECT_EQ(dialogs.TakeLog(), Log{std::string("save: ") + kFilter + " at " + folder.Path()});
+    EXPECT_EQ(author->windowTitle(), "Author Area new.rtf");
+    QTest::keyClick(box, Qt::Key_B, Qt::ControlModifier);
+    Type("b");
+    QTest::keyClick(box, Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(author->windowTitle(), "Author Area new.rtf");
+    EXPECT_EQ(folder.Read("new.rtf"), WriteRtf(box->Text()));
+
+    dialogs.WillGive(folder.Path("notes.rtf"));
+    Click("btnOpen");
+    EXPECT_EQ(dialogs.TakeLog(), Log{std::string("open: ") + kFilter + " in " + folder.Path()});
+    EXPECT_EQ(Plain(), "old notes");
+    dialogs.WillGive(folder.Path("new.rtf"));
+    Click("btnOpen");
+    EXPECT_EQ(Outline(), "a{b:b}");
+}
+
+TEST_F(AuthorWindowTest, ChangedNotesAreNeverLostUnasked) {
+    const struct {
+        const char* description;
+        Answer answer;
+        std::string target;  ///< Of the save dialog; empty for Cancel.
+        bool opens;
+        bool closes;
+    } cases[] = {
+        {"not to be saved", Answer::No, "", true, true},
+        {"saved", Answer::Yes, folder.Path("a.rtf"), true, true},
+        {"the save dialog is cancelled", Answer::Yes, "", false, false},
+        {"saving fails", Answer::Yes, folder.Path("missing/a.rtf"), false, false},
+    };
+    for (const auto& c : cases) {
+        for (const bool closing : {false, true}) {
+            auto* child = window.Open(form::kAuthor);
+            auto* notes = child->findChild<RichTextBox*>("rtfAuthor");
+            QTest::keyClicks(notes, "x");
+            dialogs.WillAnswer(c.answer);
+            if (c.answer == Answer::Yes) {
+                c.target.empty() ? dialogs.WillCancel() : dialogs.WillGive(c.target);
+            }
+            const bool fails = c.target.find("missing") != std::string::npos;
+            if (fails) {
+                dialogs.WillConfirm();
+            }
+            if (closing) {
+                EXPECT_EQ(child->AskToSave(), c.closes) << c.description;
+            } else {
+                if (c.opens) {
+                    dialogs.WillGive(folder.Path("notes.rtf"));
+                }
+                child->OpenFile();
+                EXPECT_EQ(notes->toPlainText(), c.opens ? "old notes" : "x") << c.description;
+            }
+            const Log log = dialogs.TakeLog();
+            EXPECT_EQ(log.front(),
+                      std::string(closing ? "yes, no or cancel: " : "yes or no: ") + kQuestion);
+            if (fails) {
+                EXPECT_EQ(log.back(), "warning: Path not found: " + c.target + ".");
+            }
+            child->CloseUnasked();
+        }
+    }
+}
+
+TEST_F(AuthorWindowTest, CancellingLeavesTextAndMarkAsTheyWere) {
+    Type("x");
+    dialogs.WillAnswer(Answer::No);
+    dialogs.WillCancel();
+    Click("btnOpen");
+    EXPECT_EQ(Plain(), "x");
+    EXPECT_EQ(author->windowTitle(), "Author Area*");
+    dialogs.WillAnswer(Answer::No);
+    dialogs.WillGive(folder.Path("none.rtf"));
+    dialogs.WillConfirm();
+    Click("btnOpen");
+    EXPECT_EQ(dialogs.TakeLog().back(),
+              "warning: File not found: " + folder.Path("none.rtf") + ".");
+    EXPECT_EQ(author->windowTitle(), "Author Area*");
+    dialogs.WillAnswer(Answer::Cancel);
+    EXPECT_FALSE(author->AskToSave());
+}
+
+TEST_F(AuthorWindowTest, AsksBeforeASaveDestroysSomething) {
+    const std::string picture = "{\\rtf1 a{\\pict 00}\\trowd b\\cell\\row}";
+    const struct {
+        std::string before;
+        std::string meanwhile;  ///< What another program writes.
+        std::string question;   ///< Behind the path.
+    } cases[] = {
+        {picture, "",
+         " also holds pictures and the form of tables, which the Author Area cannot keep. Save "
+         "without them?"},
+        {"plain \xE9", "",
+         " is plain text. Saving makes it Rich Text, which programs for plain text cannot read. "
+         "Save?"},
+        {"{\\rtf1 a}", "{\\rtf1 b}",
+         " was changed by another program since it was read. Save over these changes?"},
+    };
+    for (const auto& c : cases) {
+        const std::string path = folder.Write("asked.rtf", c.before);
+        LoadAndType("asked.rtf");
+        const std::string onDisk = c.meanwhile.empty() ? c.before : c.meanwhile;
+        folder.Write("asked.rtf", onDisk);
+        dialogs.WillAnswer(Answer::No);
+        Click("btnSave");
+        EXPECT_EQ(dialogs.TakeLog(), Log{"yes or no: The file " + path + c.question});
+        EXPECT_EQ(folder.Read("asked.rtf"), onDisk);
+        EXPECT_EQ(author->windowTitle(), "Author Area asked.rtf*");
+        dialogs.WillAnswer(Answer::Yes);
+        Click("btnSave");
+        Type("y");
+        Click("btnSave");  // Asked once only.
+        EXPECT_EQ(folder.Read("asked.rtf"), WriteRtf(box->Text()));
+        dialogs.TakeLog();
+    }
+    LoadAndType("notes.rtf");
+    dialogs.WillGive(folder.Path("other.rtf"));
+    Click("btnSaveAs");
+    EXPECT_EQ(folder.Read("notes.rtf"), "{\\rtf1 {\\b old} notes\\par}");
+}
+
+TEST_F(AuthorWindowTest, TheBarChangesTheTextAndShowsWhatItIs) {
+    Type("plain");
+    for (const char* button : {"btnBold", "btnItalic", "btnUnderline", "btnStrike"}) {
+        Click(button);
+    }
+    Type("all");
+    Click("btnCenter");
+    EXPECT_EQ(Outline(), "<qc>plain{b i u s:all}");
+    box->moveCursor(QTextCursor::Start);
+    EXPECT_FALSE(IsChecked("btnBold"));
+    box->moveCursor(QTextCursor::End);
+    EXPECT_TRUE(IsChecked("btnBold") && IsChecked("btnStrike") && IsChecked("btnCenter"));
+    EXPECT_FALSE(IsChecked("btnLeft"));
+
+    box->selectAll();
+    author->findChild<QComboBox*>("cmbSize")->setCurrentText("31");
+    QTest::keyClick(author->findChild<QComboBox*>("cmbSize"), Qt::Key_Return);
+    const auto colors = author->findChild<QToolButton*>("btnColor")->menu()->actions();
+    colors.at(1)->trigger();
+    EXPECT_EQ(Outline(), "<qc>{62 209,52,56:plain}{b i u s 62 209,52,56:all}");
+    colors.at(0)->trigger();
+    EXPECT_EQ(Outline(), "<qc>{62:plain}{b i u s 62:all}") << "automatic is no colour";
+    for (int i = 0; i < 3; ++i) {
+        Click("btnUndo");
+    }
+    QTest::keyClick(box, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(Outline(), "<qc>{62:plain}{b i u s 62:all}");
+}
+
+TEST_F(AuthorWindowTest, ListsAreMadeByTheKeyboardToo) {
+    Click("btnNumbers");
+    Type("one\r");
+    QTest::keyClick(box, Qt::Key_Tab);
+    Type("inner\r");
+    QTest::keyClick(box, Qt::Key_Backtab);
+    Type("two\r");
+    QTest::keyClick(box, Qt::Key_Return);
+    Type("no item\r");
+    Click("btnBullets");
+    EXPECT_TRUE(IsChecked("btnBullets"));
+    EXPECT_EQ(Outline(),
+              "<1 li360 fi-360>one|<1 level1 li720 fi-360>inner|<2 li360 fi-360>two|no "
+              "item|<\u2022 li360 fi-360>");
+    QTest::keyClick(box, Qt::Key_Backspace);
+    EXPECT_FALSE(IsChecked("btnBullets"));
+}
+
+TEST_F(AuthorWindowTest, TheKeysKeepTheFormAndTheMenuDoesNot) {
+    const auto offer = [](const char* type, const char* bytes) {
+        auto* data = new QMimeData;
+        data->setData(QLatin1String(type), bytes);
+        data->setText("rich");
+        QApplication::clipboard()->setMimeData(data);
+    };
+    const struct {
+        const char* type;
+        const char* bytes;
+    } kinds[] = {{"text/html", "<b>ri</b>ch<img src='a.png'>"},
+                 {"text/rtf", "{\\rtf1\\fs0{\\b ri}ch{\\pict 00}}"}};
+    for (const auto& kind : kinds) {
+        box->clear();
+        offer(kind.type, kind.bytes);
+        QTest::keyClick(box, Qt::Key_V, Qt::ControlModifier);
+        EXPECT_EQ(box->toPlainText(), "rich") << kind.type;
+        QTextCursor cursor(box->document());
+        cursor.setPosition(1);
+        EXPECT_EQ(cursor.charFormat().fontWeight(), QFont::Bold) << kind.type;
+    }
+    box->selectAll();
+    QTest::keyClick(box, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_TRUE(QApplication::clipboard()->mimeData()->data("text/rtf").contains("\\b"));
+    box->clear();
+    clipboard.text = "plain";
+    Choose(window, "mnuEdit_Paste");
+    EXPECT_EQ(Outline(), "plain");
+}
+
+TEST_F(AuthorWindowTest, PrintsTheFormattedText) {
+    author->Load(folder.Path("notes.rtf"));
+    printer.accepts = false;
+    Choose(window, "mnuFile_Print");
+    EXPECT_TRUE(printer.printedHtml.empty());
+    printer.accepts = true;
+    printer.failure = "The printer burns.";
+    dialogs.WillConfirm();
+    Choose(window, "mnuFile_Print");
+    EXPECT_EQ(dialogs.TakeLog(), Log{"warning: The printer burns."});
+    ASSERT_EQ(printer.printedHtml.size(), 1U);
+    QTextDocument printed;
+    printed.setHtml(QString::fromStdString(printer.printedHtml.front()));
+    EXPECT_EQ(printed.toPlainText(), "old notes");
+    EXPECT_GE(printed.begin().begin().fragment().charFormat().fontWeight(), QFont::Bold);
+}
+
+TEST_F(AuthorWindowTest, TheNotesBecomeTheInsertionTarget) {
+    window.SetInsertionTarget(nullptr);
+    author->findChild<QPushButton*>("btnOpen")->setFocus();
+    EXPECT_EQ(window.InsertionTarget(), nullptr);
+    box->setFocus();
+    EXPECT_EQ(window.InsertionTarget(), box);
+}
+
+}  // namespace
+}  // namespace quenloft

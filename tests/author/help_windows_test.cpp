@@ -1,0 +1,75 @@
+// The readme and the about box.
+#include <QLabel>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QPushButton>
+
+#include "author/about_window.h"
+#include "author/readme_window.h"
+#include "engine/program_title.h"
+#include "shell/form_names.h"
+#include "shell/text_box.h"
+#include "tests/support/windows_fixture.h"
+
+namespace quenloft {
+namespace {
+
+class HelpWindowsTest : public WindowsFixture {
+  protected:
+    HelpWindowsTest() { ShowMainWindow(window); }
+
+    std::string Readme() {
+        ChildWindow* readme = window.Open(form::kReadme);
+        const std::string text = readme->findChild<TextBox*>("txtHelp")->Text();
+        readme->CloseWindow();
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        return text;
+    }
+
+    frmMain window{
+        Services(),
+        {{form::kReadme, Instances::One,
+          [this](Workspace& workspace) {
+              return new frmReadme(workspace, {folder.Path("bin"), folder.Path("bin/../share")});
+          }},
+         {form::kAbout, Instances::One,
+          [](Workspace& workspace) { return new frmAbout(workspace); }}}};
+};
+
+TEST_F(HelpWindowsTest, TheReadmeBesideTheProgramComesFirst) {
+    folder.Write("bin/quenloft", "");
+    folder.Write("share/library", "");
+    EXPECT_EQ(Readme(), "There is no readme. It should be one of these files:\r\n" +
+                            folder.Path("bin/readme.txt") + "\r\n" +
+                            folder.Path("share/readme.txt") + "\r\n");
+    folder.Write("share/Readme.txt", "shared\nb\xE9");
+    EXPECT_EQ(Readme(), "shared\r\nb\u00E9\r\n");
+    folder.Write("bin/README.TXT", "beside");
+    EXPECT_EQ(Readme(), "beside\r\n");
+    EXPECT_EQ(window.Open(form::kReadme)->windowTitle(), "Quenloft Readme.txt");
+}
+
+TEST_F(HelpWindowsTest, AboutTellsTheVersionAndStartsTheDesktopsTool) {
+    ChildWindow* about = window.Open(form::kAbout);
+    EXPECT_EQ(about->windowTitle(), "About Quenloft");
+    EXPECT_EQ(about->findChild<QLabel*>("lblVersion")->text().toStdString(),
+              "Version " + ProgramVersion());
+    EXPECT_EQ(about->findChild<QLabel*>("lblDescription")->text(),
+              "A simple program for generating anything");
+    auto* button = about->findChild<QPushButton*>("cmdSysInfo");
+    desktop.installed = "hardinfo";
+    button->click();
+    EXPECT_EQ(desktop.started, (std::vector<std::string>{"kinfocenter", "hardinfo2", "hardinfo"}));
+    desktop.installed.clear();
+    dialogs.WillConfirm();
+    button->click();
+    EXPECT_EQ(dialogs.TakeLog(),
+              std::vector<std::string>{"message: System Information Is Unavailable At This Time"});
+    QTest::keyClick(about->findChild<QPushButton*>("cmdOK"), Qt::Key_Return);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(window.findChild<QMdiArea*>()->subWindowList().isEmpty());
+}
+
+}  // namespace
+}  // namespace quenloft
