@@ -13,6 +13,7 @@
 #include "editors/importer/importer_window.h"
 #include "editors/table/table_window.h"
 #include "editors/text/text_window.h"
+#include "editors/toolbox/toolbox_window.h"
 #include "explorer/explorer_window.h"
 #include "generators/list_single_window.h"
 #include "generators/lists_window.h"
@@ -58,6 +59,7 @@ std::vector<WindowKind> MakeWindowKinds(SystemRandomSource& random) {
         {form::kReadme, Instances::One,
          [](Workspace& workspace) { return new frmReadme(workspace, ReadmeFolders()); }},
         {form::kAbout, Instances::One, Make<frmAbout>},
+        {form::kEditReference, Instances::One, Make<frmEdit_Reference>},
     };
 }
 

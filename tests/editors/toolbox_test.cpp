@@ -1,0 +1,187 @@
+// The insert toolbox: its marks, where they go, and its memory.
+#include <QComboBox>
+#include <QContextMenuEvent>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QTextEdit>
+
+#include "editors/toolbox/toolbox_text.h"
+#include "editors/toolbox/toolbox_window.h"
+#include "engine/failure.h"
+#include "shell/elided_widgets.h"
+#include "shell/form_names.h"
+#include "tests/support/recording_window.h"
+#include "tests/support/windows_fixture.h"
+
+namespace quenloft {
+namespace {
+
+TEST(ToolboxText, WritesMarksToTheLetter) {
+    EXPECT_EQ(DiceMark({"3", "6", "-1", true}), "@3d6-1~@");
+    EXPECT_EQ(DiceMark({"2", "10", "0", false}), "@2d10@");
+    EXPECT_EQ(DiceMark({" 2 dice", "", "2.5", false}), "@2d0+2@");
+    EXPECT_THROW(DiceMark({"1", "1", "3000000000", false}), Failure);
+    EXPECT_EQ(ReferenceMark("Loot", NameCase::Upper, "4"), "#LOOT^4#");
+    for (const char* repeat : {"1", "0", "-3", "many", ""}) {
+        EXPECT_EQ(ReferenceMark("\xC3\x89lan VITAL", NameCase::First, repeat),
+                  "#\xC3\x89lan vital#");
+    }
+}
+
+class ToolboxTest : public WindowsFixture {
+  protected:
+    ToolboxTest() {
+        for (const char* name : {"deep/er/loot.tbl", "deep/Orcs.v2.tbl"}) {
+            folder.Write(std::string("lib/") + name, std::string("Title of ") + name +
+                                                         "\xA4"
+                                                         "1");
+        }
+        folder.Write("quenloft.INI", "[Settings]\r\nLibpath=" + folder.Path("lib") + "\r\n");
+        ShowMainWindow(window);
+        editor = static_cast<RecordingWindow*>(window.Open(form::kEdit));
+        toolbox = window.Open(form::kEditReference);
+    }
+    static std::vector<WindowKind> Kinds() {
+        return {{form::kEditReference, Instances::One,
+                 [](Workspace& workspace) { return new frmEdit_Reference(workspace); }},
+                {form::kEdit, Instances::Many,
+                 [](Workspace& workspace) { return new RecordingWindow(workspace, form::kEdit); }}};
+    }
+    template <typename Widget>
+    Widget* Get(const std::string& name) {
+        return toolbox->findChild<Widget*>(QString::fromStdString(name));
+    }
+    /// With the focus, as after a click of the mouse.
+    void Click(const char* name) {
+        auto* button = Get<QAbstractButton>(name);
+        button->setFocus();
+        button->click();
+    }
+    static void AskForMenu(QWidget& button, QContextMenuEvent::Reason reason) {
+        const QPoint place = button.rect().center();
+        QContextMenuEvent event(reason, place, button.mapToGlobal(place));
+        QCoreApplication::sendEvent(&button, &event);
+    }
+    std::string CaptionOf(int index) {
+        return Get<TitleButton>("btnQuicklList_" + std::to_string(index))->text().toStdString();
+    }
+    void Bind(int index, const std::string& file) {
+        dialogs.WillGive(folder.Path(file));
+        AskForMenu(*Get<TitleButton>("btnQuicklList_" + std::to_string(index)),
+                   QContextMenuEvent::Keyboard);
+    }
+    void Reopen() {
+        toolbox->CloseWindow();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        toolbox = window.Open(form::kEditReference);
+    }
+
+    frmMain window{Services(), Kinds()};
+    RecordingWindow* editor = nullptr;
+    ChildWindow* toolbox = nullptr;
+};
+
+TEST_F(ToolboxTest, WritesIntoTheTextThatHadTheFocusAndGivesItBack) {
+    Click("btnLinebreak");
+    EXPECT_EQ(editor->txtOut->Text(), "") << "no target yet";
+    editor->txtOut->SetText("a gem");
+    editor->txtOut->moveCursor(QTextCursor::End);
+    editor->txtOut->moveCursor(QTextCursor::StartOfWord, QTextCursor::KeepAnchor);
+    window.SetInsertionTarget(editor->txtOut);
+    Get<QLineEdit>("txtAdd")->setText("-1");
+    Click("chkOpenEnded");
+    Click("btnDice");
+    EXPECT_EQ(editor->txtOut->Text(), "a @1d6-1~@");
+    EXPECT_EQ(QApplication::focusWidget(), editor->txtOut);
+    QTest::keyClicks(QApplication::focusWidget(), "!");
+    Click("btnLinebreak");
+    EXPECT_EQ(editor->txtOut->Text(), "a @1d6-1~@!|");
+    editor->txtOut->setReadOnly(true);
+    Click("btnLinebreak");
+    EXPECT_EQ(editor->txtOut->Text(), "a @1d6-1~@!|");
+    editor->CloseUnasked();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    Click("btnLinebreak");
+}
+
+TEST_F(ToolboxTest, KnowsEveryKindOfTarget) {
+    auto* rich = new QTextEdit(editor);
+    auto* line = new QLineEdit("ab", editor);
+    line->setCursorPosition(1);
+    auto* grid = new QTableWidget(2, 2, editor);
+    grid->setItem(0, 0, new QTableWidgetItem("whole text"));
+    grid->setCurrentCell(0, 0);
+    grid->setItem(1, 1, new QTableWidgetItem("fixed"));
+    grid->item(1, 1)->setFlags(Qt::ItemIsEnabled);
+    for (QWidget* target : {static_cast<QWidget*>(rich), static_cast<QWidget*>(line),
+                            static_cast<QWidget*>(grid), static_cast<QWidget*>(editor->button)}) {
+        window.SetInsertionTarget(target);
+        Click("btnLinebreak");
+    }
+    EXPECT_EQ(rich->toPlainText(), "|");
+    EXPECT_EQ(line->text(), "a|b");
+    EXPECT_EQ(grid->item(0, 0)->text(), "|");
+    grid->setCurrentCell(1, 1);
+    window.SetInsertionTarget(grid);
+    Click("btnLinebreak");
+    EXPECT_EQ(grid->item(1, 1)->text(), "fixed");
+}
+
+TEST_F(ToolboxTest, ListsAVariableOnce) {
+    window.SetInsertionTarget(editor->txtOut);
+    auto* names = Get<QComboBox>("cmbVariables");
+    for (const char* name : {"gold", "Gold", "gold", ""}) {
+        names->setCurrentText(name);
+        Click("btnVariable");
+    }
+    EXPECT_EQ(editor->txtOut->Text(), "??gold????Gold????gold??");
+    EXPECT_EQ(names->count(), 2);
+}
+
+TEST_F(ToolboxTest, WritesATypedOrChosenReference) {
+    window.SetInsertionTarget(editor->txtOut);
+    Click("btnSendReference");
+    dialogs.WillGive(folder.Path("lib/deep/Orcs.v2.tbl"));
+    Click("btnLoad");
+    Get<QLineEdit>("txtRepeat")->setText("3");
+    Click("btnSendReference");
+    Click("optCaseUpper");
+    Get<QLineEdit>("txtRepeat")->setText("9999999999");
+    dialogs.WillConfirm();
+    Click("btnSendReference");
+    EXPECT_EQ(editor->txtOut->Text(), "#orcs^3#");
+    EXPECT_EQ(dialogs.TakeLog(),
+              (std::vector<std::string>{
+                  "open: Table(*.tbl)|*.tbl|All files (*.*)|*.* in " + folder.Path(),
+                  "warning: Overflow"}));
+}
+
+TEST_F(ToolboxTest, RemembersItsQuickTables) {
+    EXPECT_EQ(CaptionOf(9), "Right click the button  to select a table");
+    Click("btnQuicklList_9");
+    Bind(0, "lib/deep/er/loot.tbl");
+    Bind(9, "lib/deep/Orcs.v2.tbl");
+    folder.Write("elsewhere/gems.tbl",
+                 "Gems\xA4"
+                 "1");
+    Bind(4, "elsewhere/gems.tbl");
+    EXPECT_EQ(CaptionOf(4), "Gems");
+    Reopen();
+    EXPECT_EQ(CaptionOf(0), "Title of deep/er/loot.tbl");
+    EXPECT_EQ(CaptionOf(4), "gems") << "nobody knows where";
+    EXPECT_EQ(CaptionOf(9), "Title of deep/Orcs.v2.tbl");
+    EXPECT_EQ(folder.Read("quenloft.INI"),
+              "[Settings]\r\nLibpath=" + folder.Path("lib") +
+                  "\r\n[Toolbox]\r\nQuickTable0=loot\r\nQuickTable4=gems\r\nQuickTable9=Orcs\r\n");
+    window.SetInsertionTarget(editor->txtOut);
+    Click("optCaseFirst");
+    Click("btnQuicklList_9");
+    EXPECT_EQ(editor->txtOut->Text(), "#Orcs#");
+    dialogs.WillCancel();
+    AskForMenu(*Get<TitleButton>("btnQuicklList_9"), QContextMenuEvent::Mouse);
+    EXPECT_EQ(CaptionOf(9), "Title of deep/Orcs.v2.tbl");
+}
+
+}  // namespace
+}  // namespace quenloft
