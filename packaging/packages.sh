@@ -13,6 +13,7 @@ TEST_PACKAGES=(
 DEB_PACKAGES=(dpkg-dev file gzip)
 # What checks an installation for a desktop.
 DESKTOP_CHECK_PACKAGES=(appstream desktop-file-utils lintian man-db shared-mime-info)
+FUZZ_PACKAGES=(clang libclang-rt-14-dev)
 CHECK_PACKAGES=(clang-format clang-tidy git)
 
 # Prints those of the packages named that are not installed.

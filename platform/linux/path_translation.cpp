@@ -56,11 +56,12 @@ PathParts SplitPath(std::string_view path) {
         AddName(parts, path.substr(0, end));
         path.remove_prefix(end < path.size() ? end + 1 : end);
     }
-    if (!parts.names.empty()) {
+    while (!parts.names.empty()) {
         parts.names.back() = CutTrailing(parts.names.back());
-        if (parts.names.back().empty()) {
-            parts.names.pop_back();
+        if (!parts.names.back().empty()) {
+            break;
         }
+        parts.names.pop_back();
     }
     return parts;
 }

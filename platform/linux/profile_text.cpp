@@ -130,7 +130,10 @@ std::string_view WithoutQuotes(std::string_view value) {
 TextEncoding EncodingOf(std::string_view line, std::string_view file) {
     const bool isPlain = std::all_of(line.begin(), line.end(),
                                      [](char c) { return static_cast<unsigned char>(c) < 0x80; });
-    return DetectEncoding(isPlain ? file : line);
+    if (isPlain) {
+        return DetectEncoding(file);
+    }
+    return IsUtf8(line) ? TextEncoding::Utf8 : TextEncoding::Windows1252;
 }
 
 std::string Encode(const std::string& utf8, TextEncoding encoding) {
