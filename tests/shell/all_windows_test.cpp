@@ -1,0 +1,98 @@
+// What must hold in every window of the program.
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAbstractSpinBox>
+#include <QAccessible>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QMdiSubWindow>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QShortcut>
+#include <QTextEdit>
+#include <map>
+
+#include "platform/qt/qt_text.h"
+#include "shell/child_window.h"
+#include "shell/settings_dialog.h"
+#include "shell/window_kinds.h"
+#include "tests/support/windows_fixture.h"
+
+namespace quenloft {
+namespace {
+
+class AllWindows : public WindowsFixture {
+  protected:
+    AllWindows() { ShowMainWindow(window); }
+
+    /// Opens each window of the program and hands it over.
+    template <typename Look>
+    void InEach(Look look) {
+        for (const WindowKind& kind : MakeWindowKinds(random)) {
+            ChildWindow* child = window.Open(kind.formName);
+            ASSERT_TRUE(child) << kind.formName;
+            look(*child);
+        }
+    }
+    static bool TakesInput(const QWidget& widget) {
+        return widget.inherits("QAbstractButton") || widget.inherits("QLineEdit") ||
+               widget.inherits("QComboBox") || widget.inherits("QAbstractSpinBox") ||
+               widget.inherits("QPlainTextEdit") || widget.inherits("QTextEdit") ||
+               widget.inherits("QAbstractItemView");
+    }
+    /// A part of another control, which speaks for it.
+    static bool IsPart(const QWidget& widget) {
+        const QWidget* parent = widget.parentWidget();
+        return parent->inherits("QAbstractSpinBox") || parent->inherits("QComboBox") ||
+               parent->inherits("QAbstractItemView") || parent->inherits("QLineEdit") ||
+               parent->inherits("QAbstractScrollArea") || widget.inherits("QHeaderView");
+    }
+
+    frmMain window{Services(), MakeWindowKinds(random)};
+};
+
+TEST_F(AllWindows, EveryControlHasANameToBeReadOut) {
+    const auto check = [](QWidget& form) {
+        for (QWidget* widget : form.findChildren<QWidget*>()) {
+            if (!TakesInput(*widget) || IsPart(*widget)) {
+                continue;
+            }
+            QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(widget);
+            EXPECT_FALSE(accessible->text(QAccessible::Name).isEmpty())
+                << form.objectName().toStdString() << ": " << widget->objectName().toStdString();
+            EXPECT_FALSE(widget->objectName().isEmpty())
+                << form.objectName().toStdString() << ": "
+                << accessible->text(QAccessible::Name).toStdString();
+        }
+    };
+    InEach([&check](ChildWindow& child) { check(child); });
+    FontSettings fonts;
+    frmSettings settings(Services(), fonts, &window);
+    check(settings);
+}
+
+// The same key twice in a window does nothing at all.
+TEST_F(AllWindows, NoKeyIsGivenTwice) {
+    InEach([this](ChildWindow& child) {
+        std::map<QString, int> keys;
+        for (const QAction* action : window.menuBar()->findChildren<QAction*>()) {
+            ++keys[action->shortcut().toString()];
+        }
+        const QWidget& frame = *child.parentWidget();
+        for (const QShortcut* shortcut : frame.findChildren<QShortcut*>()) {
+            ++keys[shortcut->key().toString()];
+        }
+        for (const QAction* action : frame.findChildren<QAction*>()) {
+            for (const QKeySequence& key : action->shortcuts()) {
+                ++keys[key.toString()];
+            }
+        }
+        keys.erase(QString());
+        for (const auto& [key, count] : keys) {
+            EXPECT_EQ(count, 1) << key.toStdString() << " in " << child.FormName();
+        }
+    });
+}
+
+}  // namespace
+}  // namespace quenloft
