@@ -45,7 +45,8 @@ class AllWindows : public WindowsFixture {
         const QWidget* parent = widget.parentWidget();
         return parent->inherits("QAbstractSpinBox") || parent->inherits("QComboBox") ||
                parent->inherits("QAbstractItemView") || parent->inherits("QLineEdit") ||
-               parent->inherits("QAbstractScrollArea") || widget.inherits("QHeaderView");
+               parent->inherits("QAbstractScrollArea") || widget.inherits("QHeaderView") ||
+               widget.inherits("QComboBoxListView");
     }
 
     frmMain window{Services(), MakeWindowKinds(random)};
@@ -59,7 +60,8 @@ TEST_F(AllWindows, EveryControlHasANameToBeReadOut) {
             }
             QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(widget);
             EXPECT_FALSE(accessible->text(QAccessible::Name).isEmpty())
-                << form.objectName().toStdString() << ": " << widget->objectName().toStdString();
+                << form.objectName().toStdString() << ": " << widget->metaObject()->className()
+                << " in " << widget->parentWidget()->objectName().toStdString();
             EXPECT_FALSE(widget->objectName().isEmpty())
                 << form.objectName().toStdString() << ": "
                 << accessible->text(QAccessible::Name).toStdString();
