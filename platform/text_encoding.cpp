@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
+#include <cstring>
 
 #include "platform/letter_case.h"
 
@@ -19,10 +21,30 @@ constexpr std::array<char32_t, 32> kUpperControls = {
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
-bool IsAscii(std::string_view bytes) {
-    return std::all_of(bytes.begin(), bytes.end(),
-                       [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+/// How many bytes at the beginning are ASCII. Nearly all text is: eight bytes at a time.
+std::size_t AsciiLength(std::string_view bytes) {
+    constexpr std::uint64_t kHighBits = 0x8080808080808080;
+    std::size_t length = 0;
+    for (std::uint64_t eight = 0; length + sizeof eight <= bytes.size(); length += sizeof eight) {
+        std::memcpy(&eight, bytes.data() + length, sizeof eight);
+        if (eight & kHighBits) {
+            break;
+        }
+    }
+    while (length < bytes.size() && static_cast<unsigned char>(bytes[length]) < 0x80) {
+        ++length;
+    }
+    return length;
 }
+
+/// Takes the ASCII at the beginning off `bytes`.
+std::string_view TakeAscii(std::string_view& bytes) {
+    const std::string_view ascii = bytes.substr(0, AsciiLength(bytes));
+    bytes.remove_prefix(ascii.size());
+    return ascii;
+}
+
+bool IsAscii(std::string_view bytes) { return AsciiLength(bytes) == bytes.size(); }
 
 /// TakeLetter marks a byte that belongs to no character with a low surrogate.
 bool IsBroken(char32_t letter) { return letter >= 0xDC80 && letter <= 0xDCFF; }
@@ -41,7 +63,7 @@ std::optional<char> ByteOf(char32_t letter) {
 }  // namespace
 
 bool IsUtf8(std::string_view bytes) {
-    while (!bytes.empty()) {
+    while (TakeAscii(bytes), !bytes.empty()) {
         if (IsBroken(TakeLetter(bytes))) {
             return false;
         }
@@ -52,10 +74,10 @@ bool IsUtf8(std::string_view bytes) {
 std::string FromWindows1252(std::string_view bytes) {
     std::string result;
     result.reserve(bytes.size() + bytes.size() / 8);
-    for (const char c : bytes) {
-        const auto byte = static_cast<unsigned char>(c);
-        const bool inTable = byte >= 0x80 && byte <= 0x9F;
-        AppendLetter(result, inTable ? kUpperControls[byte - 0x80U] : char32_t{byte});
+    while (result += TakeAscii(bytes), !bytes.empty()) {
+        const auto byte = static_cast<unsigned char>(bytes.front());
+        AppendLetter(result, byte <= 0x9F ? kUpperControls[byte - 0x80U] : char32_t{byte});
+        bytes.remove_prefix(1);
     }
     return result;
 }
@@ -63,7 +85,7 @@ std::string FromWindows1252(std::string_view bytes) {
 std::optional<std::string> ToWindows1252(std::string_view utf8) {
     std::string result;
     result.reserve(utf8.size());
-    while (!utf8.empty()) {
+    while (result += TakeAscii(utf8), !utf8.empty()) {
         const std::optional<char> byte = ByteOf(TakeLetter(utf8));
         if (!byte) {
             return std::nullopt;

@@ -119,7 +119,10 @@ void CopyOrCut(ChildWindow& child, Clipboard& clipboard, bool cut) {
 void PasteText(QWidget* control, const QString& text) {
     if (QLineEdit* line = LineOf(control)) {
         if (!line->isReadOnly()) {
-            line->insert(QString(text).replace(u'\n', u' '));
+            line->insert(QString(text)
+                             .replace(QLatin1String("\r\n"), QLatin1String(" "))
+                             .replace(u'\r', u' ')
+                             .replace(u'\n', u' '));
         }
     } else if (auto* box = qobject_cast<QPlainTextEdit*>(control)) {
         if (!box->isReadOnly()) {

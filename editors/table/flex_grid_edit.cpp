@@ -69,6 +69,7 @@ void clsFlexGridEdit::destroyEditor(QWidget* /*editor*/, const QModelIndex& /*in
 }
 
 void clsFlexGridEdit::setEditorData(QWidget* /*editor*/, const QModelIndex& index) const {
+    editBox_->setAlignment(Qt::Alignment(index.data(Qt::TextAlignmentRole).toInt()));
     editBox_->setText(index.data(Qt::EditRole).toString());
 }
 
@@ -88,9 +89,10 @@ bool clsFlexGridEdit::eventFilter(QObject* watched, QEvent* event) {
             const auto& key = static_cast<const QKeyEvent&>(*event);
             swallowed_ = HandleKey(key);
             const bool isNumberSign = key.text() == QLatin1String("#");
+            const QPointer<clsFlexGridEdit> self = this;
             emit TextKeyDown(editBox_, isNumberSign ? Qt::Key_NumberSign : key.key(),
                              key.modifiers());
-            return swallowed_;
+            return !self || swallowed_;  // The owner may have closed everything.
         }
         case QEvent::FocusOut:
         case QEvent::Hide:

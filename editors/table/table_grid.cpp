@@ -32,6 +32,7 @@ TableGrid::TableGrid(TableModel& model, QWidget* parent)
     verticalHeader()->setSectionsMovable(true);
     verticalHeader()->setAccessibleName(tr("Rolls and shares of the rows"));
     connect(verticalHeader(), &QHeaderView::sectionMoved, this, &TableGrid::MoveDragged);
+    connect(&model, &TableModel::modelReset, this, [this] { rowHeaderWidth_ = 0; });
     connect(&model, &TableModel::SumsChanged, this, &TableGrid::FitRowHeader);
     connect(&model, &TableModel::Edited, this, [this](int first, int count) {
         editedFirst_ = first;
@@ -208,15 +209,17 @@ void TableGrid::ShowRows(int first, int count) {
 }
 
 void TableGrid::FitRowHeader() {
-    // Wide enough for any row of this table, so that nothing moves while the user scrolls.
+    // Wide enough for any row, and never narrower again in the same table: nothing moves while the
+    // user scrolls or types.
     constexpr double kWidestTotal = 2147483647;
-    const double total = std::clamp(model_.Sums().Total(), 0.0, kWidestTotal);
-    const QString number = QString::number(total, 'f', 0);
-    const QString widest = number + '-' + number + "  <0.001 %";
     constexpr int kRoom = 16;
-    const int icon = style()->pixelMetric(QStyle::PM_SmallIconSize);
-    verticalHeader()->setFixedWidth(verticalHeader()->fontMetrics().horizontalAdvance(widest) +
-                                    icon + kRoom);
+    const QString number =
+        QString::number(std::clamp(model_.Sums().Total(), 0.0, kWidestTotal), 'f', 0);
+    const QString widest = number + '-' + number + "  <0.001 %";
+    const int width = verticalHeader()->fontMetrics().horizontalAdvance(widest) +
+                      style()->pixelMetric(QStyle::PM_SmallIconSize) + kRoom;
+    rowHeaderWidth_ = std::max(rowHeaderWidth_, width);
+    verticalHeader()->setFixedWidth(rowHeaderWidth_);
 }
 
 }  // namespace quenloft

@@ -56,6 +56,7 @@ class TableGrid : public QTableView {
     clsFlexGridEdit* cellEditor_;
     int editedFirst_ = 0;  // The rows that were changed last.
     int editedCount_ = 0;
+    int rowHeaderWidth_ = 0;
 };
 
 }  // namespace quenloft

@@ -1,7 +1,6 @@
 #include "editors/table/table_reading.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <cstdint>
 #include <limits>
@@ -18,12 +17,8 @@ constexpr std::size_t kMostNamedLines = 10;  // What a message box can show.
 
 /// Nothing where the text begins with no number, or with one past 32 bits.
 std::optional<std::int64_t> WholeNumber(std::string_view text) {
-    // Nearly every bound is a row of digits.
-    std::int32_t whole = 0;
-    const char* end = text.data() + text.size();
-    if (const auto read = std::from_chars(text.data(), end, whole);
-        read.ec == std::errc() && read.ptr == end) {
-        return whole;
+    if (const auto plain = PlainNumber(text)) {
+        return *plain;
     }
     const double number = std::nearbyint(NumericPrefix(text));
     const bool fits = number >= std::numeric_limits<std::int32_t>::min() &&
@@ -157,7 +152,7 @@ class TableReader {
             badBounds_.push_back(lines_.Number());
             return std::string(Trimmed(boundText).empty() ? kEntrySeparator : boundText);
         }
-        sawTextInBound_ = sawTextInBound_ || !ParseNumber(boundText);
+        sawTextInBound_ = sawTextInBound_ || !(PlainNumber(boundText) || ParseNumber(boundText));
         const std::int64_t weight = *bound - bound_;
         bound_ = *bound;
         result_.hasEntryWithoutWeight = result_.hasEntryWithoutWeight || weight == 0;

@@ -1,5 +1,8 @@
 #include "editors/table/table_rows.h"
 
+#include <charconv>
+#include <system_error>
+
 #include "engine/numbers.h"
 #include "engine/text_helpers.h"
 
@@ -17,7 +20,17 @@ RowKind KindOfRow(std::string_view frequency) {
 }
 
 double WeightOf(std::string_view frequency) {
+    if (const auto plain = PlainNumber(frequency)) {
+        return *plain;
+    }
     return frequency.empty() ? 0 : NumericPrefix(frequency);
+}
+
+std::optional<std::int32_t> PlainNumber(std::string_view text) {
+    std::int32_t number = 0;
+    const char* end = text.data() + text.size();
+    const auto read = std::from_chars(text.data(), end, number);
+    return read.ec == std::errc() && read.ptr == end ? std::optional(number) : std::nullopt;
 }
 
 std::string OneLine(std::string_view text) {

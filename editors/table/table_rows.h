@@ -1,6 +1,8 @@
 // What the table editor edits: a title, a modifier, and rows of a frequency and an entry's text.
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -38,6 +40,10 @@ RowKind KindOfRow(std::string_view frequency);
 
 /// The leading number of a frequency, 0 where there is none.
 double WeightOf(std::string_view frequency);
+
+/// The number that `text` is where it is nothing but a whole number of 32 bits in digits, as nearly
+/// every frequency and bound: many times as fast as reading any number.
+std::optional<std::int32_t> PlainNumber(std::string_view text);
 
 /// `text` with a blank for each line end: a cell is one line.
 std::string OneLine(std::string_view text);

@@ -5,6 +5,7 @@
 #include <QMdiSubWindow>
 #include <QShortcut>
 #include <QStyle>
+#include <cmath>
 #include <limits>
 
 #include "editors/shared/find_bar.h"
@@ -31,6 +32,8 @@ namespace {
 
 constexpr TwipsPoint kPlace{4200, 600};
 constexpr char kTableFilter[] = "Table (*.tbl)|*.tbl|All files (*.*)|*.*";
+
+constexpr double kLargestTotal = 2147483647;
 
 void ShowText(QLineEdit& box, const std::string& text) {
     if (const QString shown = ToQt(text); box.text() != shown) {
@@ -360,8 +363,8 @@ bool frmEdit_Table::HasFault() {
 }
 
 bool frmEdit_Table::AllowsZeros() {
-    const auto zero = FirstZero(model_->Content());
-    if (!hasEntryWithoutWeight_ || !zero) {
+    const auto zero = hasEntryWithoutWeight_ ? FirstZero(model_->Content()) : std::nullopt;
+    if (!zero) {
         return true;
     }
     grdTable_->GoTo(static_cast<int>(*zero), kFrequencyColumn);
@@ -398,8 +401,10 @@ void frmEdit_Table::InsertReference(QLineEdit& editBox) {
     }
     // The reference, its marks included, comes in place of the typed one; cancelled, nothing does.
     grdTable_->CellEditor().SwallowKey();
+    // Copies: this window may be gone when the user has chosen.
     const QPointer<QLineEdit> box = &editBox;
-    QString reference = ToQt(chooseReference_(workspace_, file_.Folder(), this));
+    const ReferenceChooser choose = chooseReference_;
+    QString reference = ToQt(choose(workspace_, file_.Folder(), this));
     if (box && !reference.isEmpty()) {
         box->insert(reference.remove(u'{').remove(u'}'));
     }
@@ -409,7 +414,9 @@ QString frmEdit_Table::StateText() const {
     const int rows = model_->rowCount();
     const int row = grdTable_->currentIndex().row();
     QString text = row >= 0 ? tr("Row %1 of %2.").arg(row + 1).arg(rows) : tr("%1 rows.").arg(rows);
-    text += tr(" Total: %1.").arg(model_->Sums().Total(), 0, 'f', 0);
+    if (const double total = model_->Sums().Total(); std::abs(total) <= kLargestTotal) {
+        text += tr(" Total: %1.").arg(total, 0, 'f', 0);
+    }
     if (!leftOut_.empty()) {
         QStringList parts;
         for (const std::string& part : leftOut_) {

@@ -1,6 +1,7 @@
 #include "editors/table/table_writing.h"
 
 #include <algorithm>
+#include <cstdint>
 
 #include "engine/numbers.h"
 #include "engine/table_file.h"
@@ -31,9 +32,25 @@ std::string ModifierFault(std::string_view modifier) {
                : "The modifier does not begin with ??, so it would be read as part of the total.";
 }
 
+/// `bound` is whole and fits 32 bits.
+void AppendBound(std::string& text, double bound) {
+    text += std::to_string(static_cast<std::int32_t>(bound));
+}
+
+/// Of the file's text.
+std::size_t SizeAtMost(const TableContent& content) {
+    constexpr std::size_t kAroundEntry = 16;  // Bound, separator, line break.
+    std::size_t size = content.title.size() + content.modifier.size() + 2 * kAroundEntry;
+    for (const TableRow& row : content.rows) {
+        size += row.entry.size() + kAroundEntry;
+    }
+    return size;
+}
+
 void AppendRow(std::string& text, const TableRow& row, const WeightSums& sums, std::size_t index) {
     if (sums.Kind(index) == RowKind::Weight) {
-        text.append(NumberToText(sums.Bound(index))).append(kEntrySeparator);
+        AppendBound(text, sums.Bound(index));
+        text.append(kEntrySeparator);
     } else if (sums.Kind(index) == RowKind::Comment) {
         text.append(kCommentFrequency);
     }
@@ -76,7 +93,9 @@ std::optional<std::size_t> FirstZero(const TableContent& content) {
 
 std::string TableFileText(const TableContent& content, const WeightSums& sums) {
     std::string text = content.title;
-    text.append(kHeaderSeparator).append(NumberToText(sums.Total()));
+    text.reserve(SizeAtMost(content));
+    text.append(kHeaderSeparator);
+    AppendBound(text, sums.Total());
     text.append(content.modifier).append(kLineBreak);
     for (std::size_t row = 0; row < content.rows.size(); ++row) {
         text.append(kLineBreak);

@@ -115,7 +115,8 @@ std::string WeightSums::Label(std::size_t row) const {
 }
 
 WeightSums::Sum WeightSums::SumOf(std::string_view frequency) {
-    return {WeightOf(frequency), 0, KindOfRow(frequency)};
+    const double weight = WeightOf(frequency);
+    return {weight, 0, weight != 0 ? RowKind::Weight : KindOfRow(frequency)};
 }
 
 void WeightSums::AddUp(std::size_t first) {
