@@ -1,6 +1,5 @@
 #include "author/rich_text_builder.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "platform/letter_case.h"
@@ -72,20 +71,6 @@ RichText RichTextBuilder::Take() {
         text_.paragraphs.emplace_back();
     }
     return std::exchange(text_, {});
-}
-
-int ListCounter::Count(int list, int level, int start, int shown) {
-    Last& last = last_[level];
-    const int next = last.list == list ? last.number + 1 : start;
-    last = {list, std::min(shown > 0 ? shown : next, kLargestListNumber)};
-    std::fill(&last_[level] + 1, std::end(last_), Last());
-    return last.number;
-}
-
-void ListCounter::Interrupt() {
-    for (Last& last : last_) {
-        last = last.list < 0 ? Last() : last;
-    }
 }
 
 }  // namespace quenloft

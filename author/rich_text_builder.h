@@ -31,21 +31,4 @@ class RichTextBuilder {
     bool isFull_ = false;
 };
 
-/// The number of each item of a document's lists, for items whose label does not tell.
-class ListCounter {
-  public:
-    /// `list` tells lists apart; below 0 where it goes on only from one paragraph to the next.
-    /// `shown` is the number in the label, 0 where none could be read.
-    int Count(int list, int level, int start, int shown);
-    /// A paragraph of no list came.
-    void Interrupt();
-
-  private:
-    struct Last {
-        int list = 0;  // 0: none yet.
-        int number = 0;
-    };
-    Last last_[kListLevels];
-};
-
 }  // namespace quenloft

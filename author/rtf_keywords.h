@@ -5,7 +5,7 @@
 #include <string_view>
 #include <variant>
 
-#include "author/rtf_reader.h"
+#include "author/loss.h"
 #include "author/rtf_state.h"
 
 namespace quenloft {

@@ -7,9 +7,9 @@
 #include <utility>
 
 #include "author/code_page.h"
-#include "author/list_label.h"
 #include "author/rich_text_builder.h"
 #include "author/rtf_keywords.h"
+#include "author/rtf_numbering.h"
 #include "author/rtf_tables.h"
 #include "author/rtf_tokenizer.h"
 #include "platform/letter_case.h"
@@ -21,17 +21,6 @@ constexpr std::string_view kSignature = "{\\rtf";
 // Groups further in share the state of this one: no document nests so deep.
 constexpr std::size_t kMostStates = 1000;
 constexpr std::size_t kMostTabStops = 64;
-constexpr std::size_t kLongestLabel = 64;
-constexpr std::string_view kLossNames[] = {"pictures",
-                                           "embedded objects",
-                                           "drawings",
-                                           "the form of tables",
-                                           "headers and footers",
-                                           "footnotes",
-                                           "comments",
-                                           "links and other fields",
-                                           "hidden text",
-                                           "the text past the first 16 MiB"};
 constexpr char32_t kReplacement = 0xFFFD;
 
 bool IsHighSurrogate(char32_t unit) { return unit >= 0xD800 && unit <= 0xDBFF; }
@@ -89,7 +78,6 @@ class Reader {
     bool IsFallback(const RtfMeaning& meaning);
     void Do(RtfAction action);
     void DoWithParagraph(RtfAction action);
-    void DoNumberingWord();
 
     // Groups.
     std::size_t Depth() const { return states_.size() + unstackedGroups_; }
@@ -117,9 +105,6 @@ class Reader {
     bool IsOn() const { return !token_.hasNumber || token_.number != 0; }
     int CurrentCodePage();
     const CharFormat& CurrentFormat();
-    ParagraphFormat CurrentParagraph();
-    ListKind CurrentListKind();
-    ListItem CurrentItem();
     void Lose(Loss loss) { losses_.set(static_cast<std::size_t>(loss)); }
 
     RtfTokenizer tokens_;
@@ -137,11 +122,7 @@ class Reader {
 
     RtfFontTable fonts_;
     RtfColorTable colors_;
-    RtfListTable lists_;
-    std::string label_;
-    ListItem numbering_;
-    int numberingStart_ = 1;
-    ListCounter counter_;
+    RtfNumbering numbering_;
 
     RichTextBuilder document_;
     RtfCharState formatOf_;  // That format_ was made from.
@@ -149,7 +130,7 @@ class Reader {
     bool formatIsMade_ = false;
     int pendingCells_ = 0;
     bool breakPage_ = false;
-    std::bitset<std::size(kLossNames)> losses_;
+    std::bitset<kLossCount> losses_;
 };
 
 RtfContent Reader::Read() {
@@ -268,10 +249,10 @@ void Reader::HandleWord() {
             colors_.ReadWord(token_);
             return;
         case RtfDestination::Lists:
-            lists_.ReadWord(token_);
+            numbering_.Table().ReadWord(token_);
             return;
         case RtfDestination::Numbering:
-            DoNumberingWord();
+            numbering_.ReadWord(token_);
             break;
         case RtfDestination::Text:
         case RtfDestination::Label:
@@ -419,30 +400,6 @@ void Reader::DoWithParagraph(RtfAction action) {
     }
 }
 
-void Reader::DoNumberingWord() {
-    struct KindWord {
-        std::string_view name;
-        ListKind kind;
-    };
-    constexpr KindWord kKindWords[] = {
-        {"pnlvlblt", ListKind::Bullet},     {"pnlvlbody", ListKind::Decimal},
-        {"pnlvl", ListKind::Decimal},       {"pnlvlcont", ListKind::None},
-        {"pndec", ListKind::Decimal},       {"pnucltr", ListKind::UpperLetter},
-        {"pnlcltr", ListKind::LowerLetter}, {"pnucrm", ListKind::UpperRoman},
-        {"pnlcrm", ListKind::LowerRoman},
-    };
-    for (const KindWord& word : kKindWords) {
-        if (word.name == token_.text) {
-            numbering_.kind = word.kind;
-        }
-    }
-    if (token_.text == "pnlvl") {
-        numbering_.level = std::clamp(token_.number - 1, 0, kListLevels - 1);
-    } else if (token_.text == "pnstart") {
-        numberingStart_ = std::clamp(token_.number, 0, kLargestListNumber);
-    }
-}
-
 // --- Groups ---
 
 void Reader::EnterGroup(RtfDestination destination) {
@@ -452,10 +409,9 @@ void Reader::EnterGroup(RtfDestination destination) {
     }
     State().destination = destination;
     if (destination == RtfDestination::Label) {
-        label_.clear();
+        numbering_.BeginLabel();
     } else if (destination == RtfDestination::Numbering) {
-        numbering_ = {.level = ParagraphOf().format.list.level};
-        numberingStart_ = 1;
+        numbering_.BeginGroup(ParagraphOf());
     }
 }
 
@@ -465,8 +421,7 @@ void Reader::LeaveDestination(RtfDestination destination) {
         formatIsMade_ = false;
     } else if (destination == RtfDestination::Numbering &&
                State().destination != RtfDestination::Numbering) {
-        ParagraphOf().format.list = numbering_;
-        ParagraphOf().listStart = numberingStart_;
+        numbering_.EndGroup(ParagraphOf());
     }
 }
 
@@ -532,7 +487,7 @@ void Reader::AddText(std::string_view utf8) {
             }
             break;
         case RtfDestination::Label:
-            label_ += utf8.substr(0, kLongestLabel - std::min(kLongestLabel, label_.size()));
+            numbering_.AddToLabel(utf8);
             break;
         case RtfDestination::Lists:
         case RtfDestination::Numbering:
@@ -559,10 +514,10 @@ void Reader::AddPendingCells() {
 void Reader::EndParagraph() {
     AddSurrogateAlone();
     AddPendingCells();
-    ParagraphFormat format = CurrentParagraph();
-    format.list = CurrentItem();
+    ParagraphFormat format = FormatOf(ParagraphOf());
+    format.pageBreakBefore = format.pageBreakBefore || breakPage_;
+    format.list = numbering_.EndParagraph(ParagraphOf());
     document_.EndParagraph(CurrentFormat(), format);
-    label_.clear();
     breakPage_ = false;
 }
 
@@ -592,92 +547,15 @@ int Reader::CurrentCodePage() {
 }
 
 const CharFormat& Reader::CurrentFormat() {
-    const RtfCharState& chars = Chars();
-    if (formatIsMade_ && chars == formatOf_) {
-        return format_;
+    if (!formatIsMade_ || Chars() != formatOf_) {
+        formatOf_ = Chars();
+        format_ = FormatOf(formatOf_, defaultFont_, fonts_, colors_);
+        formatIsMade_ = true;
     }
-    const int shade = chars.highlight > 0 ? chars.highlight
-                      : chars.shading > 0 ? chars.shading
-                                          : chars.background;
-    format_ = {
-        .font = std::string(
-            fonts_.Name(chars.font == RtfCharState::kDefaultFont ? defaultFont_ : chars.font)),
-        .halfPoints = chars.halfPoints,
-        .bold = chars.bold,
-        .italic = chars.italic,
-        .underline = chars.underline,
-        .strike = chars.strike,
-        .position = chars.position,
-        .capitals = chars.capitals,
-        .color = colors_.At(chars.color),
-        .background = shade > 0 ? colors_.At(shade) : Color(),
-    };
-    formatOf_ = chars;
-    formatIsMade_ = true;
     return format_;
 }
 
-// Without the list's number, which counts up when the paragraph ends.
-ParagraphFormat Reader::CurrentParagraph() {
-    constexpr int kSingle = 240;
-    const RtfParagraphState& state = ParagraphOf();
-    ParagraphFormat format = state.format;
-    format.pageBreakBefore = format.pageBreakBefore || breakPage_;
-    format.list = {};
-    format.lineHeight = std::abs(state.lineHeight);
-    if (state.lineHeight == 0 || (state.lineHeightIsMultiple && format.lineHeight == kSingle)) {
-        format.lineHeight = 0;
-    } else if (state.lineHeightIsMultiple) {
-        format.lineSpacing = LineSpacing::Multiple;
-    } else {
-        format.lineSpacing = state.lineHeight > 0 ? LineSpacing::AtLeast : LineSpacing::Exactly;
-    }
-    return format;
-}
-
-ListKind Reader::CurrentListKind() {
-    const RtfParagraphState& state = ParagraphOf();
-    if (state.list == 0) {
-        return state.format.list.kind;
-    }
-    if (lists_.Has(state.list)) {
-        return lists_.KindOf(state.list, state.format.list.level);
-    }
-    // Not in the table: what stands before the paragraph tells.
-    if (label_.empty()) {
-        return ListKind::None;
-    }
-    return NumberOfLabel(ListKind::Decimal, label_) ? ListKind::Decimal : ListKind::Bullet;
-}
-
-ListItem Reader::CurrentItem() {
-    const RtfParagraphState& state = ParagraphOf();
-    const ListKind kind = CurrentListKind();
-    if (kind == ListKind::None) {
-        counter_.Interrupt();
-        return {};
-    }
-    const int level = state.format.list.level;
-    if (kind == ListKind::Bullet) {
-        return {kind, level, 0};
-    }
-    const bool inTable = state.list > 0;
-    const int list = inTable ? state.list : -1 - static_cast<int>(kind);
-    const int start = inTable ? lists_.StartOf(state.list, level) : state.listStart;
-    return {kind, level,
-            counter_.Count(list, level, start, NumberOfLabel(kind, label_).value_or(0))};
-}
-
 }  // namespace
-
-std::string NamesOf(const std::vector<Loss>& losses) {
-    std::string names;
-    for (std::size_t i = 0; i < losses.size(); ++i) {
-        names += i == 0 ? "" : i + 1 == losses.size() ? " and " : ", ";
-        names += kLossNames[static_cast<std::size_t>(losses[i])];
-    }
-    return names;
-}
 
 bool IsRtf(std::string_view bytes) { return WithoutMarkAndBlanks(bytes).starts_with(kSignature); }
 

@@ -1,30 +1,13 @@
 // Reads Rich Text Format.
 #pragma once
 
-#include <string>
 #include <string_view>
 #include <vector>
 
+#include "author/loss.h"
 #include "author/rich_text.h"
 
 namespace quenloft {
-
-/// What a file held that a RichText does not.
-enum class Loss {
-    Pictures,
-    Objects,
-    Drawings,
-    TableForm,
-    HeadersAndFooters,
-    Footnotes,
-    Comments,
-    Fields,
-    HiddenText,
-    RestOfText,
-};
-
-/// "its pictures, its comments and the form of its tables"; empty for none.
-std::string NamesOf(const std::vector<Loss>& losses);
 
 struct RtfContent {
     RichText text;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "author/rich_text.h"
+#include "author/rtf_tables.h"
 
 namespace quenloft {
 
@@ -45,5 +46,11 @@ struct RtfState {
     RtfDestination destination = RtfDestination::Text;
     int fallbackLength = 1;  ///< Characters behind a "\u" for readers without Unicode.
 };
+
+/// What the state amounts to.
+CharFormat FormatOf(const RtfCharState& chars, int defaultFont, const RtfFontTable& fonts,
+                    const RtfColorTable& colors);
+/// Without the item of a list, which RtfNumbering knows.
+ParagraphFormat FormatOf(const RtfParagraphState& paragraph);
 
 }  // namespace quenloft
