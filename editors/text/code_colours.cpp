@@ -59,13 +59,13 @@ QColor ReadableOn(const QColor& background, QColor colour) {
 CodeColours::CodeColours(const QPalette& palette) {
     const QColor base = palette.color(QPalette::Base);
     constexpr double kCaretLineShare = 0.06;
-    constexpr double kMarkedLineShare = 0.25;
+    constexpr double kMarkedLineShare = 0.15;
     caretLine_ = Blend(base, palette.color(QPalette::Text), kCaretLineShare);
     markedLine_ = Blend(base, QColor(kFault), kMarkedLineShare);
     for (const TokenColour& entry : kTokenColours) {
         QTextCharFormat& format = formats_[static_cast<std::size_t>(entry.token)];
-        // The caret's line is where most of the reading is done.
-        format.setForeground(ReadableOn(caretLine_, QColor(entry.colour)));
+        const QColor onCaretLine = ReadableOn(caretLine_, QColor(entry.colour));
+        format.setForeground(ReadableOn(markedLine_, onCaretLine));
     }
     QTextCharFormat& lonely = formats_[static_cast<std::size_t>(Token::Lonely)];
     lonely.setFontWeight(QFont::Bold);

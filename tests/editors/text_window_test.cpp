@@ -397,7 +397,9 @@ TEST(CodeColoursTest, CanBeReadOnAnyBackground) {
         const CodeColours colours(palette);
         for (int token = 1; token <= static_cast<int>(Token::Lonely); ++token) {
             const QColor colour = colours.FormatOf(static_cast<Token>(token)).foreground().color();
-            EXPECT_GE(Contrast(colours.CaretLine(), colour), 4.5) << token << " " << background;
+            for (const QColor& line : {colours.CaretLine(), colours.MarkedLine()}) {
+                EXPECT_GE(Contrast(line, colour), 4.5) << token << " " << background;
+            }
         }
     }
 }
