@@ -10,10 +10,12 @@
 namespace quenloft {
 namespace {
 
-constexpr qsizetype kLongestPiece = 4096;
+constexpr qsizetype kLongestLine = 4096;
+// Of what stands in one row everything is drawn, however little of it is seen.
+constexpr qsizetype kLongestPiece = 1024;
 // Blocks grow by what is typed and inserted in them; beyond this an insertion gets blocks of its
 // own.
-constexpr qsizetype kLongestBlock = 2 * kLongestPiece;
+constexpr qsizetype kLongestBlock = 2 * kLongestLine;
 
 // Paragraph separator, the document's own frame marks, and kGoesOn; the stand-in of each is the
 // low surrogate at its index.
@@ -56,13 +58,9 @@ void UnifyLineEnds(QString& text) {
     }
 }
 
-// The end of the next piece of `text`: behind a line feed, or else behind the last blank.
-qsizetype PieceLength(QStringView text) {
-    const QStringView head = text.left(kLongestPiece);
-    const qsizetype feed = head.indexOf(u'\n');
-    if (feed >= 0) {
-        return feed + 1;
-    }
+// The length of the next piece of `line`: up to the last blank.
+qsizetype PieceLength(QStringView line) {
+    const QStringView head = line.left(kLongestPiece);
     const qsizetype blank = head.lastIndexOf(u' ');
     if (blank >= 0) {
         return blank + 1;
@@ -70,10 +68,21 @@ qsizetype PieceLength(QStringView text) {
     return head.back().isHighSurrogate() ? head.size() - 1 : head.size();
 }
 
+void AppendInPieces(QStringView line, QString& text) {
+    while (line.size() > kLongestPiece) {
+        const QStringView piece = line.left(PieceLength(line));
+        text += piece;
+        text += kGoesOn;
+        text += u'\n';
+        line = line.mid(piece.size());
+    }
+    text += line;
+}
+
 bool HasLongLines(QStringView text) {
-    for (qsizetype start = 0; text.size() - start > kLongestPiece;) {
+    for (qsizetype start = 0; text.size() - start > kLongestLine;) {
         const qsizetype feed = text.indexOf(u'\n', start);
-        if ((feed < 0 ? text.size() : feed) - start > kLongestPiece) {
+        if ((feed < 0 ? text.size() : feed) - start > kLongestLine) {
             return true;
         }
         start = feed + 1;
@@ -86,18 +95,15 @@ void BreakLongLines(QString& text) {
         return;
     }
     QString broken;
-    broken.reserve(text.size() + text.size() / kLongestPiece * 4);
-    QStringView rest(text);
-    while (rest.size() > kLongestPiece) {
-        const QStringView piece = rest.left(PieceLength(rest));
-        broken += piece;
-        if (!piece.endsWith(u'\n')) {
-            broken += kGoesOn;
-            broken += u'\n';
+    for (const QStringView line : QStringView(text).split(u'\n')) {
+        if (line.size() > kLongestLine) {
+            AppendInPieces(line, broken);
+        } else {
+            broken += line;
         }
-        rest = rest.mid(piece.size());
+        broken += u'\n';
     }
-    broken += rest;
+    broken.chop(1);
     text = std::move(broken);
 }
 

