@@ -23,8 +23,8 @@ VisibleColouring::VisibleColouring(QTextDocument& document, const CodeColours& c
     : document_(document), colours_(colours) {}
 
 void VisibleColouring::SetLanguage(Language language) {
+    generation_ += language == language_ ? 0 : 1;
     language_ = language;
-    ++generation_;
 }
 
 void VisibleColouring::SetColours(const CodeColours& colours) {
