@@ -153,7 +153,9 @@ ChildWindow* frmMain::Open(std::string_view formName) {
 }
 
 void frmMain::NoteRecentFile(const std::string& path) {
-    recentFiles_.Add(services_.files.NativePath(path));
+    if (IsTablePath(path) || IsScriptPath(path)) {
+        recentFiles_.Add(services_.files.NativePath(path));
+    }
 }
 
 void frmMain::ShowSettings() { frmSettings(services_, fontSettings_, this).exec(); }

@@ -42,7 +42,7 @@ class Workspace {
     /// Shows the window of which there is one only, or a new one; null where CanOpen is false.
     virtual ChildWindow* Open(std::string_view formName) = 0;
 
-    /// A table or script was opened or saved: it becomes the first of the recent files.
+    /// A file was opened or saved. A table or script becomes the first of the recent files.
     virtual void NoteRecentFile(const std::string& path) = 0;
 
     // --- The editing control that last had the focus: inserted text goes there. ---

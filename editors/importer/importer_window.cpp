@@ -161,6 +161,7 @@ bool frmImportTable::ImportInto(const std::string& path) {
     if (!file_.SaveWhole(path, table, isOpenedFile ? Former::Keep : Former::Replace)) {
         return false;
     }
+    workspace_.NoteRecentFile(file_.Path());
     holdsLines_ = false;
     ui_->txtOut->document()->setModified(false);
     Refresh();

@@ -311,6 +311,7 @@ void frmEdit_Table::Read(const std::string& path) {
         dialogs.ShowMessage(message + error.what() + ".", MessageIcon::Warning);
         return;
     }
+    workspace_.NoteRecentFile(file_.Path());
     leftOut_ = std::move(reading.leftOut);
     hasEntryWithoutWeight_ = reading.hasEntryWithoutWeight;
     model_->SetContent(std::move(reading.content));
@@ -333,6 +334,7 @@ bool frmEdit_Table::SaveTo(const std::string& path) {
                          isSameFile && losesText ? Former::Keep : Former::Replace)) {
         return false;
     }
+    workspace_.NoteRecentFile(file_.Path());
     leftOut_.clear();
     hasEntryWithoutWeight_ = false;
     model_->Undo().setClean();

@@ -224,6 +224,7 @@ bool frmEdit::SaveTo(const std::string& path) {
     if (!file_.SaveLines(path, ui_->txtOut->Lines())) {
         return false;
     }
+    workspace_.NoteRecentFile(file_.Path());
     ui_->txtOut->document()->setModified(false);
     Refresh();
     return true;
@@ -250,6 +251,7 @@ void frmEdit::Read(const std::string& path) {
                                      MessageIcon::Warning);
         return;
     }
+    workspace_.NoteRecentFile(file_.Path());
     ui_->txtOut->Unmark();
     ui_->txtOut->document()->setModified(false);
     Refresh();
