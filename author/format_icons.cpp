@@ -32,6 +32,9 @@ class DrawnIcon : public QIconEngine {
     }
 
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+        if (size.isEmpty()) {
+            return {};  // There is no room for it, and nothing to paint on.
+        }
         QPixmap picture(size);
         picture.fill(Qt::transparent);
         QPainter painter(&picture);

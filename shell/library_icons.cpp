@@ -42,6 +42,9 @@ class DrawnIcon : public QIconEngine {
     }
 
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+        if (size.isEmpty()) {
+            return {};  // There is no room for it, and nothing to paint on.
+        }
         QPixmap pixmap(size);
         pixmap.fill(Qt::transparent);
         QPainter painter(&pixmap);

@@ -1,0 +1,237 @@
+#include "tests/endurance/random_user.h"
+
+#include <QAbstractItemView>
+#include <QAction>
+#include <QApplication>
+#include <QDialog>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenuBar>
+#include <QTest>
+#include <filesystem>
+#include <fstream>
+
+#include "engine/engine.h"
+#include "shell/main_window.h"
+
+namespace quenloft {
+
+RandomUser::RandomUser(unsigned seed, std::string folder)
+    : random_(seed), folder_(std::move(folder)) {
+    constexpr int kMilliseconds = 3;
+    QObject::connect(&attendant_, &QTimer::timeout, [this] { Attend(); });
+    attendant_.start(kMilliseconds);
+}
+
+void RandomUser::Act(frmMain& window) {
+    // How often each is done, out of a hundred.
+    constexpr int kMenus = 15;
+    constexpr int kClicks = 55;
+    constexpr int kTexts = 75;
+    constexpr int kKeys = 94;
+    constexpr int kCloses = 97;
+    const int what = Pick(100);
+    if (what < kMenus) {
+        ChooseFromMenu(window);
+    } else if (what < kClicks) {
+        Click(AnyControl(window));
+    } else if (what < kTexts) {
+        Type(AnyControl(window));
+    } else if (what < kKeys) {
+        PressKey(AnyControl(window));
+    } else if (what < kCloses) {
+        CloseAWindow(window);
+    } else {
+        ChangeAFile();
+    }
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+void RandomUser::ShowMessage(const std::string&, MessageIcon) {}
+
+Answer RandomUser::AskYesNo(const std::string&) { return OneIn(2) ? Answer::Yes : Answer::No; }
+
+Answer RandomUser::AskYesNoCancel(const std::string&) {
+    const Answer answers[] = {Answer::Yes, Answer::No, Answer::Cancel};
+    return answers[Pick(3)];
+}
+
+std::optional<std::string> RandomUser::AskText(const std::string&, const std::string&,
+                                               const std::string&) {
+    return OneIn(3) ? std::nullopt : std::optional(AnyText());
+}
+
+std::optional<std::string> RandomUser::ChooseFileToOpen(const std::string&, const std::string&) {
+    return OneIn(4) ? std::nullopt : std::optional(AnyFile());
+}
+
+std::optional<std::string> RandomUser::ChooseFileToSave(const std::string&, const std::string&,
+                                                        int) {
+    const char* names[] = {"new.tbl", "new.spt", "new.rtf", "new.txt", "missing/new.tbl", ""};
+    if (OneIn(4)) {
+        return std::nullopt;
+    }
+    return OneIn(3) ? AnyFile() : folder_ + "/" + names[Pick(6)];
+}
+
+std::optional<std::string> RandomUser::ChooseFolder(const std::string&, const std::string&) {
+    return OneIn(2) ? std::nullopt : std::optional(folder_);
+}
+
+std::optional<FontChoice> RandomUser::ChooseFont(const FontChoice& initial) {
+    return OneIn(2) ? std::nullopt : std::optional(initial);
+}
+
+int RandomUser::Pick(int count) {
+    return static_cast<int>(random_() % static_cast<unsigned>(std::max(count, 1)));
+}
+
+std::string RandomUser::AnyFile() {
+    std::vector<std::string> paths;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder_)) {
+        paths.push_back(entry.path().string());
+    }
+    std::sort(paths.begin(), paths.end());
+    return paths.empty() ? folder_ + "/none.tbl"
+                         : paths[static_cast<std::size_t>(Pick(static_cast<int>(paths.size())))];
+}
+
+std::string RandomUser::AnyText() {
+    const char* texts[] = {"1",   "3",     "0",   "-2", "12",   "2.5",      "abc",
+                           "#b#", "@2d6@", ";",   "??", "|",    "\xC2\xA7", "\xC2\xA4",
+                           " ",   "#",     "x=3", "IF", "END:", "^"};
+    return texts[Pick(static_cast<int>(std::size(texts)))];
+}
+
+QWidget* RandomUser::AnyControl(frmMain& window) {
+    const auto* area = window.findChild<QMdiArea*>();
+    QMdiSubWindow* frame = area->currentSubWindow();
+    if (!frame) {
+        return nullptr;
+    }
+    QList<QWidget*> controls;
+    for (QWidget* widget : frame->findChildren<QWidget*>()) {
+        if (widget->isVisible() && widget->isEnabled() && widget->focusPolicy() != Qt::NoFocus) {
+            controls << widget;
+        }
+    }
+    return controls.isEmpty() ? nullptr : controls[Pick(static_cast<int>(controls.size()))];
+}
+
+void RandomUser::ChooseFromMenu(frmMain& window) {
+    QList<QAction*> actions;
+    for (QAction* action : window.menuBar()->findChildren<QAction*>()) {
+        const bool ends = action->objectName() == QLatin1String("mnuFile_Exit");
+        const bool isCommand = !action->menu() && !action->isSeparator();
+        if (isCommand && action->isEnabled() && !ends) {
+            actions << action;
+        }
+    }
+    actions[Pick(static_cast<int>(actions.size()))]->trigger();
+}
+
+void RandomUser::Click(QWidget* control) {
+    if (!control) {
+        return;
+    }
+    const QPoint place(Pick(control->width()), Pick(control->height()));
+    const auto button = OneIn(6) ? Qt::RightButton : Qt::LeftButton;
+    QWidget* target = control;
+    if (auto* view = qobject_cast<QAbstractScrollArea*>(control)) {
+        target = view->viewport();
+    }
+    const QPointer<QWidget> stillThere = target;
+    QTest::mouseClick(target, button, OneIn(9) ? Qt::ShiftModifier : Qt::NoModifier, place);
+    if (stillThere && OneIn(5)) {
+        QTest::mouseDClick(target, Qt::LeftButton, {}, place);
+    }
+}
+
+void RandomUser::Type(QWidget* control) {
+    if (!control) {
+        return;
+    }
+    control->setFocus();
+    for (const QChar letter : QString::fromStdString(AnyText())) {
+        if (QWidget* focus = QApplication::focusWidget()) {
+            QTest::sendKeyEvent(QTest::Click, focus, Qt::Key_unknown, letter, Qt::NoModifier);
+        }
+    }
+}
+
+void RandomUser::PressKey(QWidget* control) {
+    constexpr struct {
+        Qt::Key key;
+        Qt::KeyboardModifier modifier;
+    } kKeys[] = {
+        {Qt::Key_Return, Qt::NoModifier},    {Qt::Key_Tab, Qt::NoModifier},
+        {Qt::Key_Escape, Qt::NoModifier},    {Qt::Key_F5, Qt::NoModifier},
+        {Qt::Key_F2, Qt::NoModifier},        {Qt::Key_Insert, Qt::NoModifier},
+        {Qt::Key_Delete, Qt::NoModifier},    {Qt::Key_Delete, Qt::ControlModifier},
+        {Qt::Key_Up, Qt::AltModifier},       {Qt::Key_Down, Qt::AltModifier},
+        {Qt::Key_Up, Qt::NoModifier},        {Qt::Key_Down, Qt::NoModifier},
+        {Qt::Key_Down, Qt::ShiftModifier},   {Qt::Key_PageDown, Qt::NoModifier},
+        {Qt::Key_Home, Qt::ControlModifier}, {Qt::Key_End, Qt::ControlModifier},
+        {Qt::Key_A, Qt::ControlModifier},    {Qt::Key_C, Qt::ControlModifier},
+        {Qt::Key_X, Qt::ControlModifier},    {Qt::Key_V, Qt::ControlModifier},
+        {Qt::Key_Z, Qt::ControlModifier},    {Qt::Key_S, Qt::ControlModifier},
+        {Qt::Key_F, Qt::ControlModifier},    {Qt::Key_H, Qt::ControlModifier},
+        {Qt::Key_B, Qt::ControlModifier},    {Qt::Key_F3, Qt::NoModifier},
+        {Qt::Key_Backspace, Qt::NoModifier}, {Qt::Key_W, Qt::ControlModifier},
+    };
+    if (control) {
+        control->setFocus();
+        const auto& key = kKeys[Pick(static_cast<int>(std::size(kKeys)))];
+        if (QWidget* focus = QApplication::focusWidget()) {
+            QTest::keyClick(focus, key.key, key.modifier);
+        }
+    }
+}
+
+void RandomUser::CloseAWindow(frmMain& window) {
+    const auto frames = window.findChild<QMdiArea*>()->subWindowList();
+    if (frames.isEmpty()) {
+        return;
+    }
+    QMdiSubWindow* frame = frames[Pick(static_cast<int>(frames.size()))];
+    if (OneIn(3)) {
+        frame->showMaximized();
+    } else {
+        frame->close();
+    }
+}
+
+void RandomUser::ChangeAFile() {
+    const std::string path = AnyFile();
+    std::error_code ignored;
+    if (OneIn(8)) {
+        std::filesystem::remove(path, ignored);
+    } else if (std::filesystem::is_regular_file(path, ignored)) {
+        std::ofstream(path, std::ios::app) << AnyText() << "\r\n";
+    }
+}
+
+void RandomUser::Attend() {
+    if (QWidget* popup = QApplication::activePopupWidget()) {
+        QTest::keyClick(popup, OneIn(3) ? Qt::Key_Down : Qt::Key_Escape);
+        return;
+    }
+    if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+        if (OneIn(3)) {
+            OneIn(2) ? dialog->accept() : dialog->reject();
+        } else if (QWidget* focus = dialog->focusWidget()) {
+            QTest::keyClick(focus, OneIn(2) ? Qt::Key_Return : Qt::Key_Down);
+        }
+        return;
+    }
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        auto* window = qobject_cast<frmMain*>(widget);
+        // A run that is going on: leave it alone, close its window, or end it.
+        if (window && window->IsRunning() && OneIn(4)) {
+            OneIn(3) ? CloseAWindow(*window) : window->AbortRun();
+        }
+    }
+}
+
+}  // namespace quenloft
