@@ -112,7 +112,9 @@ QWidget* RandomUser::AnyControl(frmMain& window) {
     }
     QList<QWidget*> controls;
     for (QWidget* widget : frame->findChildren<QWidget*>()) {
-        if (widget->isVisible() && widget->isEnabled() && widget->focusPolicy() != Qt::NoFocus) {
+        constexpr int kVisible = 8;  // Pixels; less can hardly be hit.
+        if (widget->isVisible() && widget->isEnabled() && widget->focusPolicy() != Qt::NoFocus &&
+            std::min(widget->width(), widget->height()) >= kVisible) {
             controls << widget;
         }
     }
