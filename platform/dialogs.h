@@ -25,7 +25,7 @@ class Dialogs {
 
     /// A box with an OK button.
     virtual void ShowMessage(const std::string& text, MessageIcon icon) = 0;
-    /// A question box with Yes and No; closing it means No.
+    /// A question box with Yes and No; Cancel where it was closed without an answer.
     virtual Answer AskYesNo(const std::string& text) = 0;
     /// A question box with Yes, No and Cancel; closing it means Cancel.
     virtual Answer AskYesNoCancel(const std::string& text) = 0;

@@ -31,7 +31,9 @@ std::string ConfigurationFolder() {
 
 /// The library path of a file that was handed over, whatever the bytes of its name.
 std::string DocumentPath(const char* argument) {
-    return quenloft::ShownLibraryPath(std::filesystem::absolute(argument).string());
+    std::error_code error;
+    const std::filesystem::path path = std::filesystem::absolute(argument, error);
+    return error ? std::string(argument) : quenloft::ShownLibraryPath(path.string());
 }
 
 }  // namespace

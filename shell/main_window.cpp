@@ -153,7 +153,8 @@ ChildWindow* frmMain::Open(std::string_view formName) {
 }
 
 void frmMain::NoteRecentFile(const std::string& path) {
-    if (IsTablePath(path) || IsScriptPath(path)) {
+    const bool isKind = IsTablePath(path) || IsScriptPath(path);
+    if (isKind && services_.files.FileExists(path)) {
         recentFiles_.Add(services_.files.NativePath(path));
     }
 }
@@ -214,8 +215,10 @@ void frmMain::dragEnterEvent(QDragEnterEvent* event) {
 
 void frmMain::dropEvent(QDropEvent* event) {
     AcceptAsCopy(*event);
+    // Queued: a run must not hold up the program that the files come from.
     for (const std::string& path : DraggedFiles(*event)) {
-        OpenDocument(path);
+        QMetaObject::invokeMethod(
+            this, [this, path] { OpenDocument(path); }, Qt::QueuedConnection);
     }
 }
 

@@ -9,6 +9,7 @@ namespace {
 
 constexpr char kSection[] = "Recent";
 constexpr std::size_t kMost = 10;
+constexpr std::size_t kLongestPath = 249;  // Of a value in a profile.
 
 std::string KeyOf(std::size_t index) { return "File" + std::to_string(index); }
 
@@ -25,6 +26,9 @@ RecentFiles::RecentFiles(ProfileFile& profile) : profile_(profile) {
 }
 
 void RecentFiles::Add(const std::string& path) {
+    if (path.size() > kLongestPath) {
+        return;
+    }
     std::erase(paths_, path);
     paths_.insert(paths_.begin(), path);
     paths_.resize(std::min(paths_.size(), kMost));
@@ -32,8 +36,12 @@ void RecentFiles::Add(const std::string& path) {
 
 void RecentFiles::Save() {
     const std::string file = profile_.GetProfileFileName();
-    for (std::size_t i = 0; i < paths_.size(); ++i) {
-        profile_.WriteProfileString(kSection, KeyOf(i), paths_[i], file);
+    for (std::size_t i = 0; i < kMost; ++i) {
+        const std::string path = i < paths_.size() ? paths_[i] : std::string();
+        const std::string key = KeyOf(i);
+        if (path != profile_.ReadProfileString(kSection, key, "", file)) {
+            profile_.WriteProfileString(kSection, key, path, file);
+        }
     }
 }
 

@@ -13,9 +13,9 @@ class RecentFiles {
     /// `profile` outlives this object; it is read here and written by Save.
     explicit RecentFiles(ProfileFile& profile);
 
-    /// Puts a native path first; the list holds each path once and ten at most.
+    /// Puts a native path first; the list holds each path once and ten at most. A path that the
+    /// profile cannot hold (over 249 bytes) is left out.
     void Add(const std::string& path);
-    /// A path that the profile cannot hold (over 249 characters) is forgotten.
     void Save();
     /// The last one first.
     const std::vector<std::string>& Paths() const { return paths_; }

@@ -2,12 +2,16 @@
 
 #include "platform/dialogs.h"
 #include "platform/file_system.h"
+#include "platform/replacing.h"
 #include "platform/text_encoding.h"
 #include "shell/service_set.h"
 
 namespace quenloft {
 
 bool SaveNewText(const ServiceSet& services, const std::string& path, const std::string& text) {
+    if (!MayReplace(services.files, services.dialogs, path)) {
+        return false;
+    }
     std::string bytes = text;
     if (const auto inCodePage = ToWindows1252(text)) {
         bytes = *inCodePage;

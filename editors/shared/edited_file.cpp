@@ -3,6 +3,7 @@
 #include "editors/shared/text_form.h"
 #include "platform/dialogs.h"
 #include "platform/file_system.h"
+#include "platform/replacing.h"
 
 namespace quenloft {
 
@@ -54,7 +55,7 @@ bool EditedFile::MayWriteOver(const std::string& path) {
     files_.LookAgain();
     const std::string nativePath = files_.NativePath(path);
     if (nativePath != path_) {
-        return true;  // The user chose it in the file dialog, which asks.
+        return MayReplace(files_, dialogs_, path);
     }
     try {
         return files_.ReadBytes(path) == bytes_ ||
@@ -68,8 +69,8 @@ bool EditedFile::MayWriteOver(const std::string& path) {
 
 bool EditedFile::AllowsUtf8(const std::string& path) {
     return dialogs_.AskYesNo("The text for " + files_.NativePath(path) +
-                             " holds characters that Windows-1252 lacks. Save it as UTF-8?") ==
-           Answer::Yes;
+                             " holds characters that Windows-1252 lacks or would mix up. "
+                             "Save it as UTF-8?") == Answer::Yes;
 }
 
 bool EditedFile::Write(const std::string& path, std::string bytes, Former former) {
@@ -90,9 +91,17 @@ bool EditedFile::Write(const std::string& path, std::string bytes, Former former
 }
 
 void EditedFile::KeepFormer(const std::string& path) {
-    if (files_.FileExists(path)) {
-        files_.WriteBytes(files_.NativePath(path) + "~", files_.ReadBytes(path));
+    if (!files_.FileExists(path)) {
+        return;
     }
+    const std::string former = files_.ReadBytes(path);
+    const std::string name = files_.NativePath(path) + "~";
+    std::string kept = name;
+    // What was kept before is what its author wrote: it stays.
+    for (int number = 2; files_.FileExists(kept) && files_.ReadBytes(kept) != former; ++number) {
+        kept = name + std::to_string(number);
+    }
+    files_.WriteBytes(kept, former);
 }
 
 }  // namespace quenloft

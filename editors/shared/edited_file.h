@@ -15,7 +15,7 @@ class FileSystem;
 /// What becomes of the file that is written over.
 enum class Former {
     Replace,
-    Keep  ///< Stays beside the new one, as its name + "~".
+    Keep  ///< Stays beside the new one, as its name + "~" ("~2" where that is taken, and so on).
 };
 
 /// Asks before it writes over what another program wrote meanwhile, and before it changes a file's

@@ -5,6 +5,7 @@
 #include <QFileInfo>
 #include <QFontDialog>
 #include <QInputDialog>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMessageBox>
 
@@ -54,6 +55,28 @@ QMessageBox::StandardButton ShowBox(const std::string& text, QMessageBox::Icon i
     return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 
+Answer AnswerOf(int button) {
+    return button == QMessageBox::Yes  ? Answer::Yes
+           : button == QMessageBox::No ? Answer::No
+                                       : Answer::Cancel;
+}
+
+/// Escape and the box's close button are no answer; by itself a box of these two takes them for No.
+class YesNoBox : public QMessageBox {
+  public:
+    using QMessageBox::QMessageBox;
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        if (event->matches(QKeySequence::Cancel)) {
+            done(QMessageBox::Cancel);
+        } else {
+            QMessageBox::keyPressEvent(event);
+        }
+    }
+    void closeEvent(QCloseEvent* /*event*/) override { done(QMessageBox::Cancel); }
+};
+
 std::string ChosenFile(const QFileDialog& dialog) {
     return QFile::encodeName(dialog.selectedFiles().value(0)).toStdString();
 }
@@ -72,20 +95,15 @@ void QtDialogs::ShowMessage(const std::string& text, MessageIcon icon) {
 }
 
 Answer QtDialogs::AskYesNo(const std::string& text) {
-    const auto button = ShowBox(text, QMessageBox::Question, QMessageBox::Yes | QMessageBox::No);
-    return button == QMessageBox::Yes ? Answer::Yes : Answer::No;
+    YesNoBox box(QMessageBox::Question, ToQt(ProgramTitle()), QString(),
+                 QMessageBox::Yes | QMessageBox::No, DialogParent());
+    SetBoxText(box, ToQt(text));
+    return AnswerOf(box.exec());
 }
 
 Answer QtDialogs::AskYesNoCancel(const std::string& text) {
-    switch (ShowBox(text, QMessageBox::Question,
-                    QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel)) {
-        case QMessageBox::Yes:
-            return Answer::Yes;
-        case QMessageBox::No:
-            return Answer::No;
-        default:
-            return Answer::Cancel;
-    }
+    return AnswerOf(ShowBox(text, QMessageBox::Question,
+                            QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel));
 }
 
 std::optional<std::string> QtDialogs::AskText(const std::string& prompt,

@@ -105,7 +105,19 @@ TEST_F(EditedFileTest, KeepsTheFormerFileBesideTheNewOne) {
     file.Read("a.tbl");
     EXPECT_TRUE(file.SaveWhole(file.Path(), "new\r\n", Former::Keep));
     EXPECT_EQ(folder.Read("a.tbl"), "new\r\n");
+    EXPECT_TRUE(file.SaveWhole(file.Path(), "newer\r\n", Former::Keep));
     EXPECT_EQ(folder.Read("a.tbl~"), "old");
+    EXPECT_EQ(folder.Read("a.tbl~2"), "new\r\n");
+}
+
+TEST_F(EditedFileTest, AsksBeforeItReplacesAFileWithAnotherSpelling) {
+    folder.Write("orcs.tbl", "precious");
+    dialogs.WillAnswer(Answer::Cancel);
+    EXPECT_FALSE(file.SaveWhole(folder.Path("ORCS.TBL"), "new", Former::Replace));
+    EXPECT_EQ(folder.Read("orcs.tbl"), "precious");
+    EXPECT_EQ(dialogs.TakeLog(),
+              std::vector<std::string>{"yes or no: The file " + folder.Path("orcs.tbl") +
+                                       " exists already. Replace it?"});
 }
 
 TEST_F(EditedFileTest, SaysWhyNothingWasWritten) {

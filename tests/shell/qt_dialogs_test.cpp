@@ -60,13 +60,15 @@ TEST_F(QtDialogsTest, ATextThatWouldLeaveTheScreenIsThereInFull) {
     dialogs.ShowMessage(text.toStdString(), MessageIcon::None);
 }
 
-TEST_F(QtDialogsTest, QuestionsTakeClosingForTheCarefulAnswer) {
+TEST_F(QtDialogsTest, QuestionsTakeClosingForNoAnswer) {
     Press(QMessageBox::Yes);
     EXPECT_EQ(dialogs.AskYesNo("?"), Answer::Yes);
     Press(QMessageBox::No);
     EXPECT_EQ(dialogs.AskYesNo("?"), Answer::No);
     InNext<QMessageBox>([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); });
-    EXPECT_EQ(dialogs.AskYesNo("?"), Answer::No);
+    EXPECT_EQ(dialogs.AskYesNo("?"), Answer::Cancel);
+    InNext<QMessageBox>([](QMessageBox& box) { box.close(); });
+    EXPECT_EQ(dialogs.AskYesNo("?"), Answer::Cancel);
     Press(QMessageBox::No);
     EXPECT_EQ(dialogs.AskYesNoCancel("?"), Answer::No);
     InNext<QMessageBox>([](QMessageBox& box) { box.close(); });

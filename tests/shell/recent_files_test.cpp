@@ -69,6 +69,7 @@ TEST_F(Documents, OpenWhenTheyAreDroppedOnTheMainWindow) {
     QDropEvent drop(QPointF(9, 9), Qt::MoveAction | Qt::CopyAction, &data, Qt::LeftButton, {});
     QCoreApplication::sendEvent(&window, &drop);
     EXPECT_EQ(drop.dropAction(), Qt::CopyAction);
+    QCoreApplication::processEvents();
     EXPECT_TRUE(window.findChild<frmListSingle*>());
     EXPECT_TRUE(window.findChild<frmScript*>());
 }
@@ -78,9 +79,11 @@ TEST_F(Documents, AreTheRecentFilesAfterARestart) {
         frmMain window(Services(), Kinds());
         EXPECT_EQ(RecentEntries(window), QStringList{"No files yet"});
         for (int i = 0; i < 11; ++i) {
-            window.NoteRecentFile(folder.Path("t" + std::to_string(i) + ".tbl"));
+            window.NoteRecentFile(folder.Write("t" + std::to_string(i) + ".tbl", ""));
         }
-        window.NoteRecentFile(folder.Path("a&b.tbl"));
+        window.NoteRecentFile(folder.Path("missing.tbl"));
+        window.NoteRecentFile(folder.Write(std::string(240, 'x') + ".tbl", ""));
+        window.NoteRecentFile(folder.Write("a&b.tbl", ""));
         window.NoteRecentFile(folder.Path("orcs.tbl"));
         window.NoteRecentFile(folder.Path("a&b.tbl"));
         window.close();
