@@ -7,6 +7,7 @@
 #include "platform/file_system.h"
 #include "platform/printer.h"
 #include "platform/qt/qt_text.h"
+#include "platform/replacing.h"
 #include "shell/font_settings.h"
 #include "shell/form_names.h"
 #include "shell/workspace.h"
@@ -116,8 +117,11 @@ void frmAuthor::Refresh() {
 }
 
 bool frmAuthor::SaveFirst() {
-    return !IsModified() || workspace_.Services().dialogs.AskYesNo(kSaveQuestion) != Answer::Yes ||
-           Save();
+    if (!IsModified()) {
+        return true;
+    }
+    const Answer answer = workspace_.Services().dialogs.AskYesNo(kSaveQuestion);
+    return answer == Answer::No || (answer == Answer::Yes && Save());
 }
 
 void frmAuthor::Show(const std::string& path) {
@@ -132,8 +136,12 @@ void frmAuthor::Show(const std::string& path) {
 }
 
 bool frmAuthor::MayWriteOver(const std::string& path) {
+    const ServiceSet& services = workspace_.Services();
+    if (path != file_.Path() && !MayReplace(services.files, services.dialogs, path)) {
+        return false;
+    }
     for (const std::string& question : file_.QuestionsBefore(path)) {
-        if (workspace_.Services().dialogs.AskYesNo(question) != Answer::Yes) {
+        if (services.dialogs.AskYesNo(question) != Answer::Yes) {
             return false;
         }
     }
