@@ -1,7 +1,8 @@
 #include "author/format_bar.h"
 
+#include <QComboBox>
 #include <QDoubleValidator>
-#include <QEvent>
+#include <QFocusEvent>
 #include <QLineEdit>
 #include <QMenu>
 #include <QShortcut>
@@ -43,6 +44,18 @@ Color ColorOf(const QTextCharFormat& format) {
     return brush.style() == Qt::SolidPattern ? Color(brush.color().rgb() & 0xFFFFFFU) : Color();
 }
 
+/// Sets the index too: else leaving the box would count as choosing the item of this name.
+void ShowIn(QComboBox& box, const QString& text) {
+    box.setCurrentIndex(box.findText(text));
+    box.setEditText(text);
+}
+
+/// Whether the user remains at the control: its list opened, or another window came up.
+bool IsInterruption(const QFocusEvent& focusOut) {
+    return focusOut.reason() == Qt::PopupFocusReason ||
+           focusOut.reason() == Qt::ActiveWindowFocusReason;
+}
+
 bool IsNumbered(ListKind kind) { return kind != ListKind::None && kind != ListKind::Bullet; }
 
 }  // namespace
@@ -58,9 +71,15 @@ FormatBar::~FormatBar() = default;
 
 void FormatBar::Attach(RichTextBox& box) {
     box_ = &box;
-    connect(ui_->cmbFont, &QFontComboBox::currentFontChanged, this, &FormatBar::ChooseFont);
-    connect(ui_->cmbSize, &QComboBox::activated, this, &FormatBar::ChooseSize);
-    connect(ui_->cmbSize->lineEdit(), &QLineEdit::returnPressed, this, &FormatBar::ChooseSize);
+    connect(ui_->cmbFont, &QComboBox::activated, this, &FormatBar::ChooseFont);
+    connect(ui_->cmbFont->lineEdit(), &QLineEdit::returnPressed, this, &FormatBar::EnterFont);
+    connect(ui_->cmbSize, &QComboBox::activated, this, &FormatBar::EnterSize);
+    connect(ui_->cmbSize->lineEdit(), &QLineEdit::returnPressed, this, &FormatBar::EnterSize);
+    for (QComboBox* combo : {static_cast<QComboBox*>(ui_->cmbFont), ui_->cmbSize}) {
+        connect(combo->lineEdit(), &QLineEdit::textEdited, this,
+                [this, combo] { typedInto_ = combo; });
+        combo->installEventFilter(this);
+    }
     connect(ui_->btnBold, &QToolButton::clicked, this, &FormatBar::SwitchBold);
     connect(ui_->btnItalic, &QToolButton::clicked, this, &FormatBar::SwitchItalic);
     connect(ui_->btnUnderline, &QToolButton::clicked, this, &FormatBar::SwitchUnderline);
@@ -98,21 +117,52 @@ void FormatBar::changeEvent(QEvent* event) {
     }
 }
 
-void FormatBar::ChooseFont(const QFont& font) {
-    QTextCharFormat change;
-    change.setFontFamilies({font.family()});
-    box_->ChangeFormat(change);  // The user may be typing the name: the focus stays.
+bool FormatBar::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::FocusOut && !IsInterruption(*static_cast<QFocusEvent*>(event))) {
+        // The focus goes where the user sends it, whatever is done here.
+        if (watched == ui_->cmbFont && typedInto_ == ui_->cmbFont) {
+            ChooseFont();
+        } else if (watched == ui_->cmbSize && typedInto_ == ui_->cmbSize) {
+            ChooseSize();
+        } else if (watched == ui_->cmbFont || watched == ui_->cmbSize) {
+            Refresh();
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void FormatBar::ChooseFont() {
+    typedInto_ = nullptr;
+    const QString typed = ui_->cmbFont->currentText().trimmed();
+    if (!typed.isEmpty()) {
+        const int known = ui_->cmbFont->findText(typed, Qt::MatchFixedString);
+        QTextCharFormat change;
+        change.setFontFamilies({known >= 0 ? ui_->cmbFont->itemText(known) : typed});
+        box_->ChangeFormat(change);
+    }
+    Refresh();
+}
+
+void FormatBar::EnterFont() {
+    ChooseFont();
+    box_->setFocus();
 }
 
 void FormatBar::ChooseSize() {
+    typedInto_ = nullptr;
     bool isNumber = false;
     const double points = ui_->cmbSize->currentText().toDouble(&isNumber);
     if (isNumber && points >= kSmallestPoints && points <= kLargestPoints) {
         QTextCharFormat change;
         change.setFontPointSize(points);
-        Change(change);
+        box_->ChangeFormat(change);
     }
     Refresh();
+}
+
+void FormatBar::EnterSize() {
+    ChooseSize();
+    box_->setFocus();
 }
 
 void FormatBar::SwitchBold(bool on) {
@@ -148,11 +198,12 @@ void FormatBar::Refresh() {
     // With the box's own font where the text names none.
     const QFont font = format.font().resolve(box_->document()->defaultFont());
     const QSignalBlocker quiet(ui_->cmbFont);
-    if (!ui_->cmbFont->hasFocus()) {
+    if (typedInto_ != ui_->cmbFont) {
         ui_->cmbFont->setCurrentFont(font);
+        ShowIn(*ui_->cmbFont, font.families().value(0, font.family()));
     }
-    if (!ui_->cmbSize->lineEdit()->hasFocus()) {
-        ui_->cmbSize->setCurrentText(QString::number(font.pointSizeF()));
+    if (typedInto_ != ui_->cmbSize) {
+        ShowIn(*ui_->cmbSize, QString::number(font.pointSizeF()));
     }
     ui_->btnBold->setChecked(font.weight() >= QFont::DemiBold);
     ui_->btnItalic->setChecked(font.italic());
@@ -165,7 +216,9 @@ void FormatBar::Refresh() {
     ui_->btnJustify->setChecked(alignment.testFlag(Qt::AlignJustify));
     ui_->btnLeft->setChecked(!ui_->btnCenter->isChecked() && !ui_->btnRight->isChecked() &&
                              !ui_->btnJustify->isChecked());
-    const ListKind list = ListItemOf(box_->textCursor().block()).kind;
+    // Where a change of the list would begin.
+    const QTextBlock first = box_->document()->findBlock(box_->textCursor().selectionStart());
+    const ListKind list = ListItemOf(first).kind;
     ui_->btnBullets->setChecked(list == ListKind::Bullet);
     ui_->btnNumbers->setChecked(IsNumbered(list));
     ui_->btnUndo->setEnabled(box_->document()->isUndoAvailable());

@@ -8,6 +8,7 @@
 
 #include "author/rich_text.h"
 
+class QComboBox;
 class QToolButton;
 
 namespace quenloft {
@@ -31,10 +32,13 @@ class FormatBar : public QWidget {
 
   protected:
     void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    void ChooseFont(const QFont& font);
+    void ChooseFont();
+    void EnterFont();  ///< And back to the text, where the user goes on.
     void ChooseSize();
+    void EnterSize();
     void SwitchBold(bool on);
     void SwitchItalic(bool on);
     void SwitchUnderline(bool on);
@@ -60,6 +64,7 @@ class FormatBar : public QWidget {
 
     std::unique_ptr<Ui::FormatBar> ui_;
     RichTextBox* box_ = nullptr;
+    const QComboBox* typedInto_ = nullptr;  // Null once what was typed is dealt with.
 };
 
 }  // namespace quenloft

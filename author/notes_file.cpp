@@ -35,10 +35,8 @@ void NotesFile::Write(const std::string& path, const RichText& text) {
 
 std::vector<std::string> NotesFile::QuestionsBefore(const std::string& path) const {
     std::vector<std::string> questions;
-    if (path_.empty() || files_.NativePath(path) != path_) {
-        return questions;
-    }
-    if (ChangedOnDisk()) {
+    const bool isSameFile = !path_.empty() && files_.NativePath(path) == path_;
+    if (isSameFile && ChangedOnDisk()) {
         questions.push_back("The file " + path_ +
                             " was changed by another program since it was read. "
                             "Save over these changes?");
@@ -47,7 +45,7 @@ std::vector<std::string> NotesFile::QuestionsBefore(const std::string& path) con
         questions.push_back("The file " + path_ + " also holds " + NamesOf(losses_) +
                             ", which the Author Area cannot keep. Save without them?");
     }
-    if (isPlainText_) {
+    if (isSameFile && isPlainText_) {
         questions.push_back("The file " + path_ +
                             " is plain text. Saving makes it Rich Text, which programs for plain "
                             "text cannot read. Save?");

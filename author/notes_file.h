@@ -26,8 +26,8 @@ class NotesFile {
     /// Likewise. `path` is what Path() gives from then on.
     void Write(const std::string& path, const RichText& text);
 
-    /// What writing over Path() would destroy, as questions to be answered with yes or no, the most
-    /// serious first. None where it is `path` that is written and this another file.
+    /// What writing to `path` would destroy, as questions to be answered with yes or no, the most
+    /// serious first. In another file than Path(), too, the user would look for what was read.
     std::vector<std::string> QuestionsBefore(const std::string& path) const;
 
   private:

@@ -198,23 +198,55 @@ qsizetype LastWordLength(QStringView text) {
     return last - text.rbegin();
 }
 
-void InsertRun(QTextCursor& cursor, const TextRun& run) {
-    const QTextCharFormat format = CharFormatOf(run.format);
-    const QString text = ToQt(run.text);
-    QStringView rest(text);
-    while (!rest.isEmpty()) {
-        const QString inBlock = cursor.block().text().left(cursor.positionInBlock());
-        const qsizetype length = PieceLength(rest, LastWordLength(inBlock), inBlock.size());
-        cursor.insertText(rest.left(length).toString(), format);
-        rest = rest.mid(length);
-        if (!rest.isEmpty()) {
-            QTextBlockFormat goesOn = cursor.blockFormat();
-            goesOn.clearProperty(QTextFormat::ObjectIndex);  // One item has one number.
-            goesOn.clearProperty(QTextFormat::PageBreakPolicy);
-            cursor.insertBlock(goesOn);
-            cursor.block().setUserState(kGoesOn);
+/// Puts the runs of one paragraph in at a cursor. What the block holds is counted along: asking the
+/// block for its text, run by run, would take a time that grows with the square of their number.
+class RunInserter {
+  public:
+    explicit RunInserter(QTextCursor& cursor) : cursor_(cursor) {
+        Count(cursor.block().text().left(cursor.positionInBlock()));
+    }
+
+    void Insert(const TextRun& run) {
+        const QTextCharFormat format = CharFormatOf(run.format);
+        const QString text = ToQt(run.text);
+        QStringView rest(text);
+        while (!rest.isEmpty()) {
+            const QStringView piece = rest.left(PieceLength(rest, lastWord_, inBlock_));
+            cursor_.insertText(piece.toString(), format);
+            Count(piece);
+            rest = rest.mid(piece.size());
+            if (!rest.isEmpty()) {
+                GoOnInNextBlock();
+            }
         }
     }
+
+  private:
+    void Count(QStringView piece) {
+        const qsizetype last = LastWordLength(piece);
+        lastWord_ = last == piece.size() ? lastWord_ + last : last;
+        inBlock_ += piece.size();
+    }
+    void GoOnInNextBlock() {
+        QTextBlockFormat goesOn = cursor_.blockFormat();
+        goesOn.clearProperty(QTextFormat::ObjectIndex);  // One item has one number.
+        goesOn.clearProperty(QTextFormat::PageBreakPolicy);
+        cursor_.insertBlock(goesOn);
+        cursor_.block().setUserState(kGoesOn);
+        lastWord_ = 0;
+        inBlock_ = 0;
+    }
+
+    QTextCursor& cursor_;
+    qsizetype lastWord_ = 0;  // Characters since the last blank.
+    qsizetype inBlock_ = 0;
+};
+
+/// Whether `text` goes on in the item at the cursor rather than making it what its first paragraph
+/// is: one item of several keeps what it was copied as, anything else becomes part of the list.
+bool GoesIntoItem(const RichText& text, const QTextCursor& cursor) {
+    return cursor.currentList() && (text.paragraphs.size() == 1 ||
+                                    text.paragraphs.front().format.list.kind == ListKind::None);
 }
 
 // --- Out of the document ---
@@ -378,18 +410,21 @@ void InsertText(const RichText& text, QTextCursor& cursor) {
     cursor.beginEditBlock();
     cursor.removeSelectedText();
     ListMaker lists;
+    const bool goesOn =
+        cursor.block().length() > 1 || (!text.paragraphs.empty() && GoesIntoItem(text, cursor));
     bool isFirst = true;
     for (const Paragraph& paragraph : text.paragraphs) {
         if (!isFirst) {
             cursor.insertBlock(BlockFormatOf(paragraph.format), CharFormatOf(paragraph.endFormat));
             lists.Add(cursor, paragraph.format.list);
-        } else if (cursor.block().length() == 1) {
+        } else if (!goesOn) {
             cursor.setBlockFormat(BlockFormatOf(paragraph.format));
             cursor.setBlockCharFormat(CharFormatOf(paragraph.endFormat));
             lists.Add(cursor, paragraph.format.list);
         }
+        RunInserter inserter(cursor);
         for (const TextRun& run : paragraph.runs) {
-            InsertRun(cursor, run);
+            inserter.Insert(run);
         }
         isFirst = false;
     }

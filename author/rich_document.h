@@ -18,7 +18,8 @@ void PrepareDocument(QTextDocument& document);
 void ShowText(const RichText& text, QTextDocument& document);
 
 /// Puts `text` in the place of the selection. Its first paragraph continues the one at the cursor,
-/// unless that is empty.
+/// unless that is empty; an empty item of a list remains one, unless `text` begins with a list of
+/// several paragraphs itself.
 void InsertText(const RichText& text, QTextCursor& cursor);
 
 /// What the document shows, every font and size named. Pictures are left out; cells of a table are

@@ -33,15 +33,39 @@ bool HoldsFiles(const QMimeData& data) {
     return std::any_of(urls.begin(), urls.end(), [](const QUrl& url) { return url.isLocalFile(); });
 }
 
-// The blocks that `cursor`'s selection touches.
-QList<QTextBlock> BlocksOf(const QTextCursor& cursor) {
+// A selection that ends before the first character of a block, as that of whole lines does, shows
+// nothing of that block as selected: what is returned ends before it.
+QTextCursor AsSeen(const QTextCursor& selection) {
+    QTextCursor seen(selection);
+    const int end = selection.selectionEnd();
+    if (selection.hasSelection() && selection.document()->findBlock(end).position() == end) {
+        seen.setPosition(selection.selectionStart());
+        seen.setPosition(end - 1, QTextCursor::KeepAnchor);
+    }
+    return seen;
+}
+
+// The blocks that `selection` touches.
+QList<QTextBlock> BlocksOf(const QTextCursor& selection) {
     QList<QTextBlock> blocks;
-    const QTextDocument& document = *cursor.document();
-    for (QTextBlock block = document.findBlock(cursor.selectionStart());
-         block.isValid() && block.position() <= cursor.selectionEnd(); block = block.next()) {
+    const QTextCursor seen = AsSeen(selection);
+    for (QTextBlock block = seen.document()->findBlock(seen.selectionStart());
+         block.isValid() && block.position() <= seen.selectionEnd(); block = block.next()) {
         blocks.append(block);
     }
     return blocks;
+}
+
+// Whether `selection` is of several blocks, items of lists among them: a tab would replace them.
+bool SpansItems(const QTextCursor& selection) {
+    const QTextDocument& document = *selection.document();
+    if (document.findBlock(selection.selectionStart()) ==
+        document.findBlock(selection.selectionEnd())) {
+        return false;
+    }
+    const QList<QTextBlock> blocks = BlocksOf(selection);
+    return std::any_of(blocks.begin(), blocks.end(),
+                       [](const QTextBlock& block) { return block.textList() != nullptr; });
 }
 
 void EndList(const QTextBlock& block) {
@@ -97,7 +121,7 @@ void RichTextBox::ChangeList(ListKind kind) {
         }
     } else {
         const int level = ListItemOf(document()->findBlock(cursor.selectionStart())).level;
-        cursor.createList(ListFormatOf(kind, level));
+        AsSeen(cursor).createList(ListFormatOf(kind, level));
     }
     cursor.endEditBlock();
     emit cursorPositionChanged();
@@ -149,11 +173,13 @@ void RichTextBox::keyPressEvent(QKeyEvent* event) {
     }
 }
 
-// What word processors do in lists: Tab and Shift+Tab at the start of an item change its level,
-// Enter in an empty one leaves the list.
+// What word processors do in lists: Tab and Shift+Tab at the start of an item or with several items
+// selected change their level, Enter in an empty one leaves the list.
 bool RichTextBox::HandleListKey(const QKeyEvent& key) {
     const QTextCursor cursor = textCursor();
-    if (!cursor.block().textList() || !cursor.atBlockStart()) {
+    const bool isTab = key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab;
+    const bool isAtItem = cursor.block().textList() && cursor.atBlockStart();
+    if (!isAtItem && !(isTab && SpansItems(cursor))) {
         return false;
     }
     const bool isEmpty = cursor.block().length() == 1;
@@ -172,7 +198,7 @@ bool RichTextBox::HandleListKey(const QKeyEvent& key) {
             return false;
         case Qt::Key_Return:
         case Qt::Key_Enter:
-            if (isEmpty && key.modifiers() == Qt::NoModifier) {
+            if (isEmpty && !cursor.hasSelection() && key.modifiers() == Qt::NoModifier) {
                 ChangeList(ListKind::None);
                 return true;
             }

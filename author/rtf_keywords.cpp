@@ -66,6 +66,7 @@ constexpr Keyword kKeywords[] = {
     {"mmath", RtfSkippedGroup{Loss::Objects}},
     {"nestcell", RtfAction::CellEnd},
     {"nestrow", RtfAction::RowEnd},
+    {"nesttableprops", RtfGroup{RtfDestination::Text}},
     {"nonesttables", kSilently},
     {"nonshppict", kSilently},
     {"nosupersub", RtfAction::NoPosition},

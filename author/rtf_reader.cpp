@@ -112,8 +112,12 @@ class Reader {
     std::vector<RtfState> states_;
     std::size_t unstackedGroups_ = 0;
     std::size_t skipDepth_ = 0;  // Passing over groups at this depth and below; 0 for none.
-    bool starred_ = false;       // A "\*" stood before: an unknown group is to be passed over.
-    int fallbackLeft_ = 0;       // What readers without Unicode would show instead of a "\u".
+    // Only behind the start of a group does a word say what the whole group is; behind a "\*" there
+    // one that is not known says that the group is to be passed over.
+    enum class Place { Inside, GroupStart, AfterStar };
+    Place place_ = Place::Inside;      // Of this token.
+    Place nextPlace_ = Place::Inside;  // Of the one behind it.
+    int fallbackLeft_ = 0;             // What readers without Unicode would show instead of a "\u".
     char32_t highSurrogate_ = 0;
     std::string bytes_;  // Not yet decoded: a character may be of several.
     std::unique_ptr<CodePage> codePage_ = std::make_unique<CodePage>(kWindows1252);
@@ -165,6 +169,7 @@ void Reader::Handle() {
         HandleSkipped();
         return;
     }
+    place_ = std::exchange(nextPlace_, Place::Inside);
     switch (token_.kind) {
         case RtfToken::Kind::GroupStart:
             StartGroup();
@@ -205,7 +210,7 @@ void Reader::HandleSkipped() {
 void Reader::StartGroup() {
     AddBytes();
     fallbackLeft_ = 0;
-    starred_ = false;
+    nextPlace_ = Place::GroupStart;
     if (states_.size() < kMostStates) {
         states_.push_back(State());
     } else {
@@ -216,7 +221,6 @@ void Reader::StartGroup() {
 void Reader::EndGroup() {
     AddBytes();
     fallbackLeft_ = 0;
-    starred_ = false;
     if (unstackedGroups_ > 0) {
         --unstackedGroups_;
     } else if (states_.size() > 1) {
@@ -234,11 +238,11 @@ void Reader::HandleWord() {
     const RtfMeaning meaning = MeaningOf(token_.text);
     const bool opensGroup = std::holds_alternative<RtfGroup>(meaning) ||
                             std::holds_alternative<RtfSkippedGroup>(meaning);
-    if (std::exchange(starred_, false) && !opensGroup) {
+    if (place_ == Place::AfterStar && !opensGroup) {
         SkipGroup();
         return;
     }
-    if (IsFallback(meaning)) {
+    if (IsFallback(meaning) || (place_ == Place::Inside && opensGroup)) {
         return;
     }
     switch (State().destination) {
@@ -263,7 +267,9 @@ void Reader::HandleWord() {
 
 void Reader::HandleSymbol(char symbol) {
     if (symbol == '*') {
-        starred_ = true;
+        if (place_ == Place::GroupStart) {
+            nextPlace_ = Place::AfterStar;
+        }
         return;
     }
     if (fallbackLeft_ > 0) {
@@ -403,7 +409,7 @@ void Reader::DoWithParagraph(RtfAction action) {
 // --- Groups ---
 
 void Reader::EnterGroup(RtfDestination destination) {
-    if (unstackedGroups_ > 0 || states_.size() == 1) {
+    if (unstackedGroups_ > 0) {
         SkipGroup();  // Nothing would say where it ends.
         return;
     }

@@ -93,8 +93,10 @@ void CopyOrCutRich(QTextEdit& box, Clipboard& clipboard, bool cut) {
     if (!cursor.hasSelection()) {
         return;
     }
-    clipboard.SetText(
-        FromQt(cursor.selectedText().replace(QChar::ParagraphSeparator, QLatin1String("\r\n"))));
+    constexpr QLatin1String kLineEnd("\r\n");
+    clipboard.SetText(FromQt(cursor.selectedText()
+                                 .replace(QChar::ParagraphSeparator, kLineEnd)
+                                 .replace(QChar::LineSeparator, kLineEnd)));
     if (cut && !box.isReadOnly()) {
         cursor.removeSelectedText();
     }

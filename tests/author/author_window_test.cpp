@@ -2,6 +2,7 @@
 
 #include <QClipboard>
 #include <QComboBox>
+#include <QLineEdit>
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMimeData>
@@ -190,6 +191,15 @@ TEST_F(AuthorWindowTest, AsksBeforeASaveDestroysSomething) {
     dialogs.WillGive(folder.Path("other.rtf"));
     Click("btnSaveAs");
     EXPECT_EQ(folder.Read("notes.rtf"), "{\\rtf1 {\\b old} notes\\par}");
+    dialogs.TakeLog();
+
+    const std::string path = folder.Write("asked.rtf", picture);
+    LoadAndType("asked.rtf");
+    dialogs.WillGive(folder.Path("other.rtf"));
+    dialogs.WillAnswer(Answer::Yes);
+    Click("btnSaveAs");
+    EXPECT_EQ(dialogs.TakeLog().back(), "yes or no: The file " + path + cases[0].question)
+        << "nor is it in the other file";
 }
 
 TEST_F(AuthorWindowTest, TheBarChangesTheTextAndShowsWhatItIs) {
@@ -221,6 +231,41 @@ TEST_F(AuthorWindowTest, TheBarChangesTheTextAndShowsWhatItIs) {
     EXPECT_EQ(Outline(), "<qc>{62:plain}{b i u s 62:all}");
 }
 
+TEST_F(AuthorWindowTest, OnlyWhatIsChosenOrTypedInTheBarChangesTheText) {
+    folder.Write("mixed.rtf", "{\\rtf1{\\fs24 small}{\\fs48 large}}");
+    author->Load(folder.Path("mixed.rtf"));
+    box->selectAll();
+    const std::string before = Outline();
+    auto* font = author->findChild<QComboBox*>("cmbFont");
+    auto* size = author->findChild<QComboBox*>("cmbSize");
+    font->setFocus();
+    QTest::keyClick(font, Qt::Key_Tab);
+    EXPECT_TRUE(size->hasFocus());
+    QTest::keyClick(size, Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), author->findChild<QToolButton*>("btnBold"));
+    EXPECT_EQ(Outline(), before);
+    EXPECT_FALSE(box->document()->isModified());
+
+    font->setFocus();
+    font->lineEdit()->selectAll();
+    QTest::keyClick(font, Qt::Key_Delete);
+    QTest::keyClick(font, Qt::Key_Tab);
+    EXPECT_EQ(Outline(), before) << "no font has no name";
+    EXPECT_FALSE(font->currentText().isEmpty());
+    font->setFocus();
+    font->lineEdit()->selectAll();
+    QTest::keyClicks(font, "Nosuchfont");
+    EXPECT_EQ(Outline(), before) << "not yet";
+    QTest::keyClick(font, Qt::Key_Tab);
+    EXPECT_EQ(Outline(), "{Nosuchfont:small}{48 Nosuchfont:large}");
+    size->lineEdit()->selectAll();
+    QTest::keyClicks(size, "1");  // Completed to a size of the list.
+    const int completed = size->currentText().toInt();
+    QTest::keyClick(size, Qt::Key_Tab);
+    EXPECT_EQ(Outline(), "{" + std::to_string(completed * 2) + " Nosuchfont:smalllarge}");
+    EXPECT_EQ(QApplication::focusWidget(), author->findChild<QToolButton*>("btnBold"));
+}
+
 TEST_F(AuthorWindowTest, ListsAreMadeByTheKeyboardToo) {
     Click("btnNumbers");
     Type("one\r");
@@ -237,6 +282,23 @@ TEST_F(AuthorWindowTest, ListsAreMadeByTheKeyboardToo) {
               "item|<\u2022 li360 fi-360>");
     QTest::keyClick(box, Qt::Key_Backspace);
     EXPECT_FALSE(IsChecked("btnBullets"));
+}
+
+TEST_F(AuthorWindowTest, KeysAndButtonsChangeTheSelectedItemsAndNoMore) {
+    Click("btnBullets");
+    Type("a\rb\rc");
+    QTextCursor cursor = box->textCursor();
+    cursor.setPosition(1);
+    cursor.setPosition(4, QTextCursor::KeepAnchor);  // Up to the start of the third.
+    box->setTextCursor(cursor);
+    QTest::keyClick(box, Qt::Key_Tab);
+    EXPECT_EQ(Outline(),
+              "<\u2022 level1 li720 fi-360>a|<\u2022 level1 li720 fi-360>b|<\u2022 li360 fi-360>c");
+    QTest::keyClick(box, Qt::Key_Backtab);
+    Click("btnNumbers");
+    EXPECT_EQ(Outline(), "<1 li360 fi-360>a|<2 li360 fi-360>b|<\u2022 li360 fi-360>c");
+    Click("btnNumbers");
+    EXPECT_EQ(Outline(), "a|b|<\u2022 li360 fi-360>c");
 }
 
 TEST_F(AuthorWindowTest, TheKeysKeepTheFormAndTheMenuDoesNot) {
@@ -263,6 +325,10 @@ TEST_F(AuthorWindowTest, TheKeysKeepTheFormAndTheMenuDoesNot) {
     box->selectAll();
     QTest::keyClick(box, Qt::Key_C, Qt::ControlModifier);
     EXPECT_TRUE(QApplication::clipboard()->mimeData()->data("text/rtf").contains("\\b"));
+    box->setPlainText("a\u2028z\n");
+    box->selectAll();
+    Choose(window, "mnuEdit_Copy");
+    EXPECT_EQ(clipboard.text, "a\r\nz\r\n");
     box->clear();
     clipboard.text = "plain";
     Choose(window, "mnuEdit_Paste");

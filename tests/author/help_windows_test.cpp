@@ -3,6 +3,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QPushButton>
+#include <algorithm>
 
 #include "author/about_window.h"
 #include "author/readme_window.h"
@@ -62,6 +63,16 @@ TEST_F(HelpWindowsTest, AboutTellsTheVersionAndStartsTheDesktopsTool) {
     button->click();
     EXPECT_EQ(desktop.started, (std::vector<std::string>{"kinfocenter", "hardinfo2", "hardinfo"}));
     desktop.installed.clear();
+    for (const char* environment : {"ubuntu:GNOME", "XFCE"}) {
+        qputenv("XDG_CURRENT_DESKTOP", environment);
+        desktop.started.clear();
+        dialogs.WillConfirm();
+        button->click();
+        const auto isGnomes = [](const std::string& call) { return call.starts_with("gnome-"); };
+        EXPECT_EQ(std::any_of(desktop.started.begin(), desktop.started.end(), isGnomes),
+                  environment == std::string("ubuntu:GNOME"));
+    }
+    dialogs.TakeLog();
     dialogs.WillConfirm();
     button->click();
     EXPECT_EQ(dialogs.TakeLog(),

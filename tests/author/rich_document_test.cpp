@@ -120,6 +120,12 @@ TEST(RichDocument, AnInsertionContinuesTheParagraphAtTheCursor) {
     EXPECT_EQ(OutlineOf(TextOf(document)), "{Serif:a1}|<qc>{Serif:1b}");
     document.undo();
     EXPECT_EQ(OutlineOf(TextOf(document)), "{Serif:ab}") << "in one step";
+
+    cursor.select(QTextCursor::Document);
+    cursor.removeSelectedText();
+    cursor.createList(ListFormatOf(ListKind::Decimal, 0));
+    InsertText(OneRun("c"), cursor);
+    EXPECT_EQ(OutlineOf(TextOf(document)), "<1 li360 fi-360>{Serif:c}") << "an item remains one";
 }
 
 }  // namespace

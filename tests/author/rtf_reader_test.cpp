@@ -97,6 +97,12 @@ TEST(RtfReader, Paragraphs) {
         {"a table as text",
          "\\trowd\\cellx99\\intbl a\\cell b\\cell\\row\\trowd c\\cell\\cell\\row\\pard d",
          "a\tb|c\t|d"},
+        {"a table in a cell",
+         "\\trowd\\intbl\\itap2 a\\nestcell "
+         "b\\nestcell{\\*\\nesttableprops\\trowd\\cellx9\\nestrow}"
+         "{\\nonesttables\\par}c\\nestcell d\\nestcell{\\*\\nesttableprops\\trowd\\nestrow}\\itap1 "
+         "e\\cell f\\cell\\row",
+         "a\tb|c\td|e\tf"},
     });
 }
 
@@ -198,7 +204,10 @@ TEST(RtfReader, BrokenFilesGiveTheTextThatCanBeRead) {
         {"binary data past the end", "{\\rtf1 a\\bin999999999 b}", "a"},
         {"binary data without a length", "{\\rtf1 a\\bin-5 b\\bin c}", "abc"},
         {"a list's end in the middle", "{\\rtf1\\pard{\\*\\pn\\pnlvlblt}a", "<\u2022>a"},
-        {"tables that are no groups", "\\rtf1 a\\fonttbl b}c", "ac"},
+        {"tables that are no groups", "{\\rtf1 a\\fonttbl b\\pict c}", "abc"},
+        {"a star inside of a group",
+         "{\\rtf1\\ansi one \\* two \\b three\\b0  four\\par five\\par}",
+         "one  two {b:three} four|five"},
         {"numbers past all bounds",
          "{\\rtf1\\uc99999999999\\ls99999999999\\ilvl-3 a\\u99999999999 b", "a"},
     };
