@@ -92,11 +92,13 @@ std::vector<CellLine> ParseCells(std::string_view text) { return CellParser(text
 
 std::string FormatCells(const std::vector<CellLine>& lines) {
     std::string text;
-    for (std::size_t i = 0; i < lines.size(); ++i) {
-        text += i == 0 ? std::string_view() : kLineBreak;
-        for (std::size_t j = 0; j < lines[i].size(); ++j) {
-            text += j == 0 ? "" : "\t";
-            AppendCell(text, lines[i][j]);
+    for (const CellLine& line : lines) {
+        for (std::size_t i = 0; i < line.size(); ++i) {
+            text += i == 0 ? "" : "\t";
+            AppendCell(text, line[i]);
+        }
+        if (lines.size() > 1 || text.empty()) {
+            text += kLineBreak;
         }
     }
     return text;

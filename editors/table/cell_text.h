@@ -14,7 +14,8 @@ using CellLine = std::vector<std::string>;
 /// before a tab or a line end is text.
 std::vector<CellLine> ParseCells(std::string_view text);
 
-/// CR LF behind every line but the last.
+/// CR LF between lines and behind the last, so that empty lines at the end are read back too; one
+/// line alone gets none, unless it is a single empty cell.
 std::string FormatCells(const std::vector<CellLine>& lines);
 
 }  // namespace quenloft

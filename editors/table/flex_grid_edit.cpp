@@ -34,6 +34,10 @@ void clsFlexGridEdit::SetEditBoxBorderStyle(std::int16_t style) {
     }
 }
 
+bool clsFlexGridEdit::CanEdit(const QModelIndex& cell) {
+    return cell.data(Qt::EditRole).toString().size() <= kMostLetters;
+}
+
 void clsFlexGridEdit::StartEditing() {
     grid_->setFocus();
     grid_->edit(grid_->currentIndex());
@@ -55,6 +59,12 @@ void clsFlexGridEdit::CommitAndMove(std::int16_t code) {
     const GridCell next =
         NextCell({cell_.row(), cell_.column()}, {model.rowCount(), model.columnCount()}, code);
     CommitAndEdit(model.index(next.row, next.column));
+}
+
+void clsFlexGridEdit::FocusBox() {
+    if (IsEditing()) {
+        editBox_->setFocus();
+    }
 }
 
 QWidget* clsFlexGridEdit::createEditor(QWidget* /*parent*/, const QStyleOptionViewItem& /*option*/,
@@ -147,7 +157,9 @@ void clsFlexGridEdit::CommitAndEdit(const QModelIndex& next) {
     emit commitData(editBox_);
     emit closeEditor(editBox_, NoHint);
     grid_->selectionModel()->setCurrentIndex(cell, QItemSelectionModel::ClearAndSelect);
-    grid_->edit(cell);
+    if (CanEdit(cell)) {
+        grid_->edit(cell);
+    }
     busy_ = false;
 }
 
@@ -161,6 +173,16 @@ void clsFlexGridEdit::MoveLeft() {
 void clsFlexGridEdit::TextChanged(const QString& text) {
     if (IsEditing()) {
         emit Typing(cell_, text);
+    }
+    if (text.size() > kMostLetters) {
+        // Later: who puts the text in goes on with the box.
+        QMetaObject::invokeMethod(this, &clsFlexGridEdit::CloseIfTooLong, Qt::QueuedConnection);
+    }
+}
+
+void clsFlexGridEdit::CloseIfTooLong() {
+    if (editBox_ && editBox_->text().size() > kMostLetters) {
+        CommitAndHide();
     }
 }
 

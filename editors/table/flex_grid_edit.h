@@ -37,12 +37,18 @@ class clsFlexGridEdit : public QStyledItemDelegate {
     // --- Operations. ---
 
     bool IsEditing() const { return cell_.isValid(); }
+    /// A text box takes its time over each key by the length of its text: longer ones it does not
+    /// get, and it closes over one that has become longer, which is stored.
+    static constexpr int kMostLetters = 20000;
+    static bool CanEdit(const QModelIndex& cell);
     /// Edits the current cell, its text selected.
     void StartEditing();
     /// Stores the text in the cell and hides the text box; does nothing when not editing.
     void CommitAndHide();
     /// Stores, moves by a code and goes on editing there; code 0 only gives the focus back.
     void CommitAndMove(std::int16_t code);
+    /// Gives the text box the focus; does nothing when not editing.
+    void FocusBox();
     /// Called from TextKeyDown: the text box does not get the key any more.
     void SwallowKey() { swallowed_ = true; }
 
@@ -74,6 +80,7 @@ class clsFlexGridEdit : public QStyledItemDelegate {
     void CommitAndEdit(const QModelIndex& next);
     void MoveLeft();
     void TextChanged(const QString& text);
+    void CloseIfTooLong();
 
     QPointer<QTableView> grid_;
     QPointer<QLineEdit> editBox_;

@@ -12,6 +12,19 @@
 #include "editors/table/table_model.h"
 
 namespace quenloft {
+namespace {
+
+/// Whether an event that may begin to edit a cell is the user's wish to do so: keys that type
+/// nothing come here too.
+bool AsksToEdit(const QEvent* event) {
+    if (!event || event->type() != QEvent::KeyPress) {
+        return true;
+    }
+    const auto* key = static_cast<const QKeyEvent*>(event);
+    return key->key() == Qt::Key_F2 || (!key->text().isEmpty() && key->text().front().isPrint());
+}
+
+}  // namespace
 
 TableGrid::TableGrid(TableModel& model, QWidget* parent)
     : QTableView(parent), model_(model), cellEditor_(new clsFlexGridEdit(this)) {
@@ -50,6 +63,7 @@ TableGrid::TableGrid(TableModel& model, QWidget* parent)
     };
     onKey(Qt::Key_Insert, &TableGrid::InsertRow);
     onKey(Qt::CTRL | Qt::Key_Return, &TableGrid::InsertRowBehind);
+    onKey(Qt::CTRL | Qt::Key_Enter, &TableGrid::InsertRowBehind);
     onKey(Qt::Key_Delete, &TableGrid::ClearSelected);
     onKey(Qt::CTRL | Qt::Key_Delete, &TableGrid::RemoveSelected);
     onKey(Qt::ALT | Qt::Key_Up, &TableGrid::MoveSelectedUp);
@@ -108,7 +122,8 @@ void TableGrid::Redo() {
     }
 }
 
-std::string TableGrid::SelectedText() const {
+std::string TableGrid::SelectedText() {
+    cellEditor_->CommitAndHide();
     return FormatCells(TakeCells(model_.Content().rows, Selected()));
 }
 
@@ -138,13 +153,40 @@ void TableGrid::GoTo(int row, int column) {
     scrollTo(cell);
 }
 
+bool TableGrid::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) {
+    if (!(trigger & editTriggers()) || clsFlexGridEdit::CanEdit(index)) {
+        return QTableView::edit(index, trigger, event);
+    }
+    if (AsksToEdit(event)) {
+        emit TooLongToEdit();
+    }
+    return true;  // Or the letter would look for a row that begins with it.
+}
+
+void TableGrid::focusInEvent(QFocusEvent* event) {
+    // The keys would go to other cells while the text box is open: a click beside it closes it, and
+    // who comes from another control goes on in it. With any other reason the box is being closed.
+    if (event->reason() == Qt::MouseFocusReason) {
+        cellEditor_->CommitAndHide();
+    } else if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason) {
+        cellEditor_->FocusBox();
+    }
+    QTableView::focusInEvent(event);
+}
+
 void TableGrid::keyPressEvent(QKeyEvent* event) {
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (isEnter && event->modifiers() == Qt::NoModifier && currentIndex().isValid()) {
+    const bool isAlone = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    if (isEnter && isAlone && currentIndex().isValid()) {
         cellEditor_->StartEditing();
         return;
     }
     QTableView::keyPressEvent(event);
+}
+
+void TableGrid::mousePressEvent(QMouseEvent* event) {
+    cellEditor_->CommitAndHide();
+    QTableView::mousePressEvent(event);
 }
 
 void TableGrid::InsertRowAt(int row) {

@@ -34,14 +34,21 @@ class TableGrid : public QTableView {
     void Redo();
 
     /// The selected cells as spreadsheets take them; empty when there are none.
-    std::string SelectedText() const;
+    std::string SelectedText();
     /// From the first selected cell on, else behind the last row.
     void PasteText(std::string_view text);
 
     void GoTo(int row, int column);
 
+  signals:
+    /// The user wants to edit a cell whose text is too long for that.
+    void TooLongToEdit();
+
   protected:
+    bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
 
   private:
     void InsertRowAt(int row);

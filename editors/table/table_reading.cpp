@@ -15,6 +15,12 @@ namespace {
 
 constexpr std::size_t kMostNamedLines = 10;  // What a message box can show.
 
+/// A weight or a zero.
+bool IsNumber(std::string_view text) {
+    const RowKind kind = KindOfRow(text);
+    return kind == RowKind::Weight || (kind == RowKind::Continuation && !Trimmed(text).empty());
+}
+
 /// Nothing where the text begins with no number, or with one past 32 bits.
 std::optional<std::int64_t> WholeNumber(std::string_view text) {
     if (const auto plain = PlainNumber(text)) {
@@ -23,8 +29,22 @@ std::optional<std::int64_t> WholeNumber(std::string_view text) {
     const double number = std::nearbyint(NumericPrefix(text));
     const bool fits = number >= std::numeric_limits<std::int32_t>::min() &&
                       number <= std::numeric_limits<std::int32_t>::max();
-    const bool isNumber = KindOfRow(text) == RowKind::Weight || ParseNumber(text);
-    return fits && isNumber ? std::optional(static_cast<std::int64_t>(number)) : std::nullopt;
+    return fits && IsNumber(text) ? std::optional(static_cast<std::int64_t>(number)) : std::nullopt;
+}
+
+/// "lines 3, 4 and 7"; `numbers` is not empty.
+std::string NameLines(const std::vector<std::size_t>& numbers) {
+    std::string text = numbers.size() == 1 ? "line " : "lines ";
+    const std::size_t named = std::min(numbers.size(), kMostNamedLines);
+    for (std::size_t i = 0; i < named; ++i) {
+        const bool isLast = i + 1 == numbers.size();
+        text += i == 0 ? "" : isLast ? " and " : ", ";
+        text += std::to_string(numbers[i]);
+    }
+    if (named < numbers.size()) {
+        text += " and " + std::to_string(numbers.size() - named) + " more";
+    }
+    return text;
 }
 
 class Lines {
@@ -149,7 +169,7 @@ class TableReader {
     std::string FrequencyOf(std::string_view boundText) {
         const auto bound = WholeNumber(boundText);
         if (!bound) {
-            badBounds_.push_back(lines_.Number());
+            (IsNumber(boundText) ? largeBounds_ : badBounds_).push_back(lines_.Number());
             return std::string(Trimmed(boundText).empty() ? kEntrySeparator : boundText);
         }
         sawTextInBound_ = sawTextInBound_ || !(PlainNumber(boundText) || ParseNumber(boundText));
@@ -166,22 +186,19 @@ class TableReader {
     }
 
     void NoteFaults() {
-        if (badBounds_.empty()) {
-            return;
+        const std::string mark(kEntrySeparator);
+        if (!badBounds_.empty()) {
+            AddFault((badBounds_.size() == 1 ? "There is no whole number before the "
+                                             : "There are no whole numbers before the ") +
+                     mark + " in " + NameLines(badBounds_) + ".");
         }
-        std::string text = badBounds_.size() == 1 ? "There is no whole number before the "
-                                                  : "There are no whole numbers before the ";
-        text.append(kEntrySeparator).append(badBounds_.size() == 1 ? " in line " : " in lines ");
-        const std::size_t named = std::min(badBounds_.size(), kMostNamedLines);
-        for (std::size_t i = 0; i < named; ++i) {
-            const bool isLast = i + 1 == badBounds_.size();
-            text += i == 0 ? "" : isLast ? " and " : ", ";
-            text += std::to_string(badBounds_[i]);
+        if (!largeBounds_.empty()) {
+            AddFault(
+                (largeBounds_.size() == 1 ? "The number before the " : "The numbers before the ") +
+                mark + " in " + NameLines(largeBounds_) +
+                (largeBounds_.size() == 1 ? " is" : " are") +
+                " past 32 bits: 2147483647 is the largest.");
         }
-        if (named < badBounds_.size()) {
-            text += " and " + std::to_string(badBounds_.size() - named) + " more";
-        }
-        AddFault(text + ".");
     }
 
     void AddFault(std::string_view sentence) {
@@ -194,6 +211,7 @@ class TableReader {
     std::int64_t bound_ = 0;  // Of the entry last read.
     bool sawTextInBound_ = false;
     std::vector<std::size_t> badBounds_;
+    std::vector<std::size_t> largeBounds_;
 };
 
 }  // namespace

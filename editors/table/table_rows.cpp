@@ -9,14 +9,24 @@
 namespace quenloft {
 
 RowKind KindOfRow(std::string_view frequency) {
-    if (WeightOf(frequency) != 0) {
-        return RowKind::Weight;
+    if (const auto plain = PlainNumber(frequency)) {
+        return *plain != 0 ? RowKind::Weight : RowKind::Continuation;
+    }
+    if (Trimmed(frequency).empty()) {
+        return RowKind::Continuation;
     }
     if (frequency == kCommentFrequency) {
         return RowKind::Comment;
     }
-    return Trimmed(frequency).empty() || ParseNumber(frequency) ? RowKind::Continuation
-                                                                : RowKind::NoNumber;
+    const double weight = NumericPrefix(frequency);
+    const auto number = ParseNumber(frequency);
+    if (number && *number != weight) {
+        return RowKind::NoNumber;  // "0,5" or "$5": nobody means what the table file would say.
+    }
+    if (weight != 0) {
+        return RowKind::Weight;
+    }
+    return number ? RowKind::Continuation : RowKind::NoNumber;
 }
 
 double WeightOf(std::string_view frequency) {

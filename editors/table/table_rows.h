@@ -33,12 +33,13 @@ enum class RowKind {
     Weight,        ///< Begins an entry.
     Comment,       ///< The frequency is ";".
     Continuation,  ///< One more line of the entry above; the frequency is empty or a zero.
-    NoNumber       ///< The frequency means nothing.
+    NoNumber  ///< The frequency means nothing, or as a whole another number than it begins with.
 };
 
 RowKind KindOfRow(std::string_view frequency);
 
-/// The leading number of a frequency, 0 where there is none.
+/// The leading number of a frequency, 0 where there is none. Only where the kind is Weight it is
+/// the row's weight: "1,000" begins with 1 and is no weight.
 double WeightOf(std::string_view frequency);
 
 /// The number that `text` is where it is nothing but a whole number of 32 bits in digits, as nearly

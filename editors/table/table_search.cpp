@@ -73,6 +73,9 @@ int TableSearch::ReplaceAll(const SearchRequest& request, const QString& replace
     return count;
 }
 
-void TableSearch::FocusSearched() { grid_.setFocus(); }
+void TableSearch::FocusSearched() {
+    grid_.setFocus();
+    grid_.CellEditor().FocusBox();
+}
 
 }  // namespace quenloft

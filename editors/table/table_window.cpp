@@ -155,26 +155,25 @@ bool frmEdit_Table::AskToSave() {
 bool frmEdit_Table::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
         case QEvent::FocusIn:
+            // A minimised window gives the focus to the grid while the text box is open.
             if (watched == grdTable_ || watched == tbFgEdit_) {
-                workspace_.SetInsertionTarget(static_cast<QWidget*>(watched));
+                const bool inBox = !tbFgEdit_->isHidden();
+                workspace_.SetInsertionTarget(inBox ? static_cast<QWidget*>(tbFgEdit_) : grdTable_);
             }
             break;
         case QEvent::Hide:
-            if (watched == tbFgEdit_ && workspace_.InsertionTarget() == tbFgEdit_) {
+            // Hidden by itself, not with the whole window.
+            if (watched == tbFgEdit_ && tbFgEdit_->isHidden() &&
+                workspace_.InsertionTarget() == tbFgEdit_) {
                 workspace_.SetInsertionTarget(grdTable_);
             }
             break;
-        case QEvent::ShortcutOverride: {
-            // Undo is the table's: the boxes know of their own text only.
-            const auto* key = static_cast<QKeyEvent*>(event);
-            const bool isUndo =
-                key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo);
-            if (isUndo && (watched == ui_->txtTitle || watched == ui_->txtModifier)) {
+        case QEvent::ShortcutOverride:
+            if (IsUndoOfTable(watched, static_cast<const QKeyEvent&>(*event))) {
                 event->ignore();
                 return true;
             }
             break;
-        }
         default:
             break;
     }
@@ -185,7 +184,10 @@ void frmEdit_Table::New() {
     grdTable_->CellEditor().CommitAndHide();
     const Answer answer =
         workspace_.Services().dialogs.AskYesNo("Do You want to save file " + file_.Name() + " ?");
-    if (answer != Answer::Yes || Save()) {
+    if (answer == Answer::Cancel) {
+        return;
+    }
+    if (answer == Answer::No || Save()) {
         StartNew();
     }
 }
@@ -212,15 +214,30 @@ void frmEdit_Table::ModifierEdited() {
 
 void frmEdit_Table::clsFGEdit_TextKeyDown(QLineEdit* editBox, int KeyCode,
                                           Qt::KeyboardModifiers Shift) {
-    if (KeyCode == Qt::Key_NumberSign && !(Shift & (Qt::ControlModifier | Qt::MetaModifier))) {
+    const Qt::KeyboardModifiers held = Shift & ~Qt::KeypadModifier;
+    const auto instead = [this](void (TableGrid::*operation)()) {
+        grdTable_->CellEditor().SwallowKey();
+        (grdTable_->*operation)();
+    };
+    const bool isEnter = KeyCode == Qt::Key_Return || KeyCode == Qt::Key_Enter;
+    if (KeyCode == Qt::Key_NumberSign && !(held & (Qt::ControlModifier | Qt::MetaModifier))) {
         InsertReference(*editBox);
-    } else if (KeyCode == Qt::Key_Insert && Shift == Qt::NoModifier) {
-        grdTable_->CellEditor().SwallowKey();
-        grdTable_->InsertRow();
-    } else if (KeyCode == Qt::Key_Return && Shift == Qt::ControlModifier) {
-        grdTable_->CellEditor().SwallowKey();
-        grdTable_->InsertRowBehind();
+    } else if (KeyCode == Qt::Key_Insert && held == Qt::NoModifier) {
+        instead(&TableGrid::InsertRow);
+    } else if (isEnter && held == Qt::ControlModifier) {
+        instead(&TableGrid::InsertRowBehind);
+    } else if (KeyCode == Qt::Key_Up && held == Qt::AltModifier) {
+        instead(&TableGrid::MoveSelectedUp);
+    } else if (KeyCode == Qt::Key_Down && held == Qt::AltModifier) {
+        instead(&TableGrid::MoveSelectedDown);
     }
+}
+
+void frmEdit_Table::TellTooLong() {
+    workspace_.Services().dialogs.ShowMessage("This entry has more than " +
+                                                  std::to_string(clsFlexGridEdit::kMostLetters) +
+                                                  " letters. The text editor can edit it.",
+                                              MessageIcon::Information);
 }
 
 void frmEdit_Table::Refresh() {
@@ -269,6 +286,10 @@ void frmEdit_Table::ConnectControls() {
     connect(ui_->txtModifier, &QLineEdit::textChanged, this, &frmEdit_Table::ModifierEdited);
     connect(&grdTable_->CellEditor(), &clsFlexGridEdit::TextKeyDown, this,
             &frmEdit_Table::clsFGEdit_TextKeyDown);
+    // Queued: the window may be closed while the message stands, and the grid is in its key's
+    // event.
+    connect(grdTable_, &TableGrid::TooLongToEdit, this, &frmEdit_Table::TellTooLong,
+            Qt::QueuedConnection);
     connect(grdTable_->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &frmEdit_Table::Refresh);
     connect(model_, &TableModel::FieldsChanged, this, &frmEdit_Table::ShowFields);
@@ -365,20 +386,44 @@ bool frmEdit_Table::HasFault() {
 }
 
 bool frmEdit_Table::AllowsZeros() {
-    const auto zero = hasEntryWithoutWeight_ ? FirstZero(model_->Content()) : std::nullopt;
-    if (!zero) {
+    if (!hasEntryWithoutWeight_) {
         return true;
     }
-    grdTable_->GoTo(static_cast<int>(*zero), kFrequencyColumn);
-    return workspace_.Services().dialogs.AskYesNo(
-               NameOfRow(model_->Content(), *zero) +
-               " was an entry that no roll picks. With the weight 0 it becomes another line of the "
-               "entry above. Save the table so?") == Answer::Yes;
+    const std::vector<std::size_t> zeros = ZeroRows(model_->Content());
+    if (zeros.empty()) {
+        return true;
+    }
+    grdTable_->GoTo(static_cast<int>(zeros.front()), kFrequencyColumn);
+    const std::size_t more = zeros.size() - 1;
+    std::string question = NameOfRow(model_->Content(), zeros.front());
+    if (more == 0) {
+        question +=
+            " was an entry that no roll picks. With the weight 0 it becomes another line of the "
+            "entry above.";
+    } else {
+        question += " and " + std::to_string(more) + (more == 1 ? " more row" : " more rows") +
+                    " were entries that no roll picks. With the weight 0 they become further lines "
+                    "of the entries above.";
+    }
+    return workspace_.Services().dialogs.AskYesNo(question + " Save the table so?") == Answer::Yes;
 }
 
 bool frmEdit_Table::IsChanged() const { return !model_->Undo().isClean(); }
 
 bool frmEdit_Table::IsGridFocused() const { return focusWidget() == grdTable_; }
+
+bool frmEdit_Table::IsUndoOfTable(const QObject* watched, const QKeyEvent& key) const {
+    const bool isUndo = key.matches(QKeySequence::Undo);
+    if (!isUndo && !key.matches(QKeySequence::Redo)) {
+        return false;
+    }
+    if (watched == tbFgEdit_) {
+        const bool hasHistory =
+            tbFgEdit_->isUndoAvailable() || (!isUndo && tbFgEdit_->isRedoAvailable());
+        return !hasHistory;
+    }
+    return watched == ui_->txtTitle || watched == ui_->txtModifier;
+}
 
 ChildWindow* frmEdit_Table::OpenList() {
     if (!list_) {
@@ -400,6 +445,9 @@ void frmEdit_Table::InsertReference(QLineEdit& editBox) {
             "In order to display the full reference list, the table must be saved first!",
             MessageIcon::Warning);
         return;
+    }
+    if (workspace_.IsRunning()) {
+        return;  // The browser would hold the run up.
     }
     // The reference, its marks included, comes in place of the typed one; cancelled, nothing does.
     grdTable_->CellEditor().SwallowKey();

@@ -60,6 +60,8 @@ class frmEdit_Table : public ChildWindow {
     void ModifierEdited();
     void clsFGEdit_TextKeyDown(QLineEdit* editBox, int KeyCode, Qt::KeyboardModifiers Shift);
 
+    void TellTooLong();
+
     /// Derives caption, marks and texts from the file and the rows.
     void Refresh();
     void ShowFields();
@@ -75,6 +77,9 @@ class frmEdit_Table : public ChildWindow {
     bool AllowsZeros();
     bool IsChanged() const;
     bool IsGridFocused() const;
+    /// Whether a key that a text box would take undoes or redoes a step of the table: the boxes
+    /// outside the grid have no history of their own, the cell's has while it is being typed in.
+    bool IsUndoOfTable(const QObject* watched, const QKeyEvent& key) const;
     ChildWindow* OpenList();
     void InsertReference(QLineEdit& editBox);
     QString StateText() const;

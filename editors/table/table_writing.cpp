@@ -1,9 +1,7 @@
 #include "editors/table/table_writing.h"
 
-#include <algorithm>
 #include <cstdint>
 
-#include "engine/numbers.h"
 #include "engine/table_file.h"
 #include "engine/text_helpers.h"
 
@@ -82,13 +80,15 @@ std::string NameOfRow(const TableContent& content, std::size_t row) {
            ShownTitle(content.rows[row].entry, kMostLetters) + "\")";
 }
 
-std::optional<std::size_t> FirstZero(const TableContent& content) {
-    const auto found = std::ranges::find_if(content.rows, [](const TableRow& row) {
-        return WeightOf(row.frequency) == 0 && ParseNumber(row.frequency);
-    });
-    return found == content.rows.end()
-               ? std::nullopt
-               : std::optional(static_cast<std::size_t>(found - content.rows.begin()));
+std::vector<std::size_t> ZeroRows(const TableContent& content) {
+    std::vector<std::size_t> zeros;
+    for (std::size_t row = 0; row < content.rows.size(); ++row) {
+        const std::string& frequency = content.rows[row].frequency;
+        if (KindOfRow(frequency) == RowKind::Continuation && !Trimmed(frequency).empty()) {
+            zeros.push_back(row);
+        }
+    }
+    return zeros;
 }
 
 std::string TableFileText(const TableContent& content, const WeightSums& sums) {
@@ -106,9 +106,9 @@ std::string TableFileText(const TableContent& content, const WeightSums& sums) {
 
 std::string TablePrintText(const TableContent& content, const std::string& path,
                            const std::string& program) {
-    std::string text = "Title : " + content.title;
-    text.append(kLineBreak).append("Modifier : ").append(content.modifier);
-    text.append(kLineBreak).append("Filename : ").append(path).append(kLineBreak);
+    std::string text = "Title :" + content.title;
+    text.append(kLineBreak).append("Modifier :").append(content.modifier);
+    text.append(kLineBreak).append("Filename :").append(path).append(kLineBreak);
     for (const TableRow& row : content.rows) {
         text.append(kLineBreak).append(row.frequency).append("\t").append(row.entry);
     }

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "editors/table/table_rows.h"
 #include "editors/table/weight_sums.h"
@@ -24,8 +25,8 @@ std::optional<TableFault> FirstFault(const TableContent& content, const WeightSu
 /// "Row 7 ("Goblin am…")": how a message names a row.
 std::string NameOfRow(const TableContent& content, std::size_t row);
 
-/// The first row whose frequency is a zero that somebody wrote; nothing where there is none.
-std::optional<std::size_t> FirstZero(const TableContent& content);
+/// The rows whose frequency is a zero that somebody wrote.
+std::vector<std::size_t> ZeroRows(const TableContent& content);
 
 /// The text of the file, UTF-8 with CR LF. `content` has no fault.
 std::string TableFileText(const TableContent& content, const WeightSums& sums);

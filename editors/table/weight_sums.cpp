@@ -115,8 +115,8 @@ std::string WeightSums::Label(std::size_t row) const {
 }
 
 WeightSums::Sum WeightSums::SumOf(std::string_view frequency) {
-    const double weight = WeightOf(frequency);
-    return {weight, 0, weight != 0 ? RowKind::Weight : KindOfRow(frequency)};
+    const RowKind kind = KindOfRow(frequency);
+    return {kind == RowKind::Weight ? WeightOf(frequency) : 0, 0, kind};
 }
 
 void WeightSums::AddUp(std::size_t first) {

@@ -52,8 +52,10 @@ TEST(CellText, IsReadAsSpreadsheetsWriteIt) {
         EXPECT_EQ(ParseCells(c.text), c.cells) << c.text;
     }
     const std::vector<CellLine> lines{{"a\tb", "\"c\""}, {"d\r\ne", "f \"g\""}, {"", ""}};
-    EXPECT_EQ(FormatCells(lines), "\"a\tb\"\t\"\"\"c\"\"\"\r\n\"d\r\ne\"\tf \"g\"\r\n\t");
-    EXPECT_EQ(ParseCells(FormatCells(lines)), lines);
+    EXPECT_EQ(FormatCells(lines), "\"a\tb\"\t\"\"\"c\"\"\"\r\n\"d\r\ne\"\tf \"g\"\r\n\t\r\n");
+    for (const auto& copied : {lines, {{""}}, {{"a"}}, {{"a"}, {""}}, {{""}, {""}}}) {
+        EXPECT_EQ(ParseCells(FormatCells(copied)), copied);
+    }
 }
 
 TEST(TableEdits, PasteOverRowsAndBehindThem) {

@@ -51,7 +51,14 @@ TEST(TableReading, MakesRowsOfLines) {
         {"a bad bound costs no line and counts for nothing",
          "T¤7\n\n5§A\nx§B\n§C\n9999999999§D\n7§E\n",
          "T|\n5|A\nx|B\n§|C\n9999999999|D\n2|E",
-         "There are no whole numbers before the § in lines 4, 5 and 6.",
+         "There are no whole numbers before the § in lines 4 and 5. The number before the § in "
+         "line "
+         "6 is past 32 bits: 2147483647 is the largest.",
+         {}},
+        {"numbers that begin with another number",
+         "T¤7\n\n0,5§A\n$5§B\n7§C\n",
+         "T|\n0,5|A\n$5|B\n7|C",
+         "There are no whole numbers before the § in lines 3 and 4.",
          {}},
         {"a header without a total",
          "Orcs\n\n1§A",
@@ -118,6 +125,10 @@ TEST(TableWriting, RefusesWhatWouldBeReadOtherwise) {
         {{"", "", {{"1", "A"}, {"abc", "B"}}}, "Row 2 (\"B\") has a frequency that is no number."},
         {{"", "", {{" ;", "B"}}}, "Row 1 (\"B\") has a frequency that is no number."},
         {{"", "", {{"0x", "B"}}}, "Row 1 (\"B\") has a frequency that is no number."},
+        {{"", "", {{"0,5", "B"}}}, "Row 1 (\"B\") has a frequency that is no number."},
+        {{"", "", {{"1,000", "B"}}}, "Row 1 (\"B\") has a frequency that is no number."},
+        {{"", "", {{"(5)", "B"}}}, "Row 1 (\"B\") has a frequency that is no number."},
+        {{"", "", {{"&H10", "B"}}}, "Row 1 (\"B\") has a frequency that is no number."},
         {{"", "", {{"5", "A"}, {"-6", "B"}, {"2", "C"}}},
          "Row 2 (\"B\") makes the sum of the weights negative."},
         {{"", "", {{"2147483647", "A"}, {"1", "B"}}},
@@ -159,7 +170,7 @@ TEST(WeightSums, LabelRowsWithTheirRollsAndShares) {
 
 TEST(TablePrintText, HoldsTheRowsBetweenHeadAndFooter) {
     EXPECT_EQ(TablePrintText({"T", "??X??", {{"5", "A"}, {"", "more"}}}, "/t.tbl", "Program 1"),
-              "Title : T\r\nModifier : ??X??\r\nFilename : /t.tbl\r\n\r\n5\tA\r\n\tmore\r\n\r\n"
+              "Title :T\r\nModifier :??X??\r\nFilename :/t.tbl\r\n\r\n5\tA\r\n\tmore\r\n\r\n"
               "Printed by Program 1");
 }
 

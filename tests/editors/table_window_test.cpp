@@ -193,7 +193,7 @@ TEST_F(TableWindowTest, ExchangesCellsWithSpreadsheets) {
     Press(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(Rows(), "5|A\n|\n|more\n5|C\n");
     editor->CopyGridData();
-    EXPECT_EQ(clipboard.text, "5\tA\r\n\t\r\n\tmore\r\n5\tC");
+    EXPECT_EQ(clipboard.text, "5\tA\r\n\t\r\n\tmore\r\n5\tC\r\n");
     // A text box with the focus is served alone.
     Field("txtTitle")->setFocus();
     Choose(window, "mnuEdit_Copy");
@@ -214,6 +214,74 @@ TEST_F(TableWindowTest, TakesAMillionLettersAndLineEndsIntoACell) {
     const QString cell = grid->model()->index(0, 1).data(Qt::EditRole).toString();
     EXPECT_EQ(cell.size(), 1000003);
     EXPECT_EQ(cell.right(4), "x \ty");
+    // No text box opens over it any more.
+    Press(Qt::Key_Backtab);
+    EXPECT_EQ(CurrentCell(), "0,1");
+    EXPECT_FALSE(box->isVisible());
+    for (const Qt::Key key : {Qt::Key_F2, Qt::Key_Return, Qt::Key_X}) {
+        Press(key);
+        dialogs.WillConfirm();
+        QCoreApplication::processEvents();
+        EXPECT_EQ(dialogs.TakeLog(), Log{"information: This entry has more than 20000 letters. The "
+                                         "text editor can edit it."});
+    }
+    EXPECT_EQ(CurrentCell(), "0,1");
+    // One that grows too long is stored.
+    GoTo(1, 1);
+    Press(Qt::Key_F2);
+    Choose(window, "mnuEdit_Paste");
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(box->isVisible());
+    EXPECT_EQ(grid->model()->index(1, 1).data(Qt::EditRole).toString().size(), 1000003);
+    EXPECT_EQ(grid->model()->rowCount(), 4) << "pasted once";
+}
+
+TEST_F(TableWindowTest, NeverLetsKeysPassTheOpenTextBox) {
+    LoadOrcs();
+    const auto click = [](QWidget* where, QPoint at) {
+        QTest::mouseClick(where, Qt::LeftButton, {}, at);
+    };
+    const QPoint below(50, grid->viewport()->height() - 5);
+    const QList<std::pair<QWidget*, QPoint>> places = {
+        {grid->viewport(), below},
+        {grid->verticalHeader()->viewport(), {5, 5}},
+        {grid->horizontalHeader()->viewport(), {5, 5}}};
+    for (const auto& [where, at] : places) {
+        GoTo(0, 0);
+        Type("8");
+        click(where, at);
+        EXPECT_FALSE(box->isVisible());
+        EXPECT_EQ(Rows().substr(0, 4), "8|A\n");
+        EXPECT_EQ(QApplication::focusWidget(), grid);
+        Press(Qt::Key_Z, Qt::ControlModifier);
+    }
+    GoTo(0, 0);
+    Type("8");
+    Press(Qt::Key_F, Qt::ControlModifier);
+    Press(Qt::Key_Escape);
+    EXPECT_EQ(QApplication::focusWidget(), box);
+    Field("txtModifier")->setFocus();
+    Press(Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), box);
+    Type("1");
+    Press(Qt::Key_Down, Qt::AltModifier);
+    EXPECT_EQ(Rows(), "10|B\n81|A\n|more\n5|C\n");
+    EXPECT_FALSE(box->isVisible());
+    Press(Qt::Key_Enter, Qt::KeypadModifier);
+    EXPECT_TRUE(box->isVisible()) << "the keypad's";
+    for (int i = 0; i < 2; ++i) {
+        Press(Qt::Key_F2);
+        Press(Qt::Key_Z, Qt::ControlModifier);
+    }
+    EXPECT_EQ(Rows(), "5|A\n10|B\n|more\n5|C\n") << "nothing was typed that the box could undo";
+    Press(Qt::Key_F2);
+    Press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(Rows().substr(0, 5), "81|A\n");
+    Press(Qt::Key_F2);
+    Type("9");
+    Press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_TRUE(box->isVisible());
+    EXPECT_EQ(box->text(), "81");
 }
 
 TEST_F(TableWindowTest, UndoesTypingInTheTitleAsOneStep) {
@@ -256,6 +324,10 @@ TEST_F(TableWindowTest, PutsAReferenceWhereANumberSignIsTyped) {
     box->selectAll();
     Type("#");
     EXPECT_EQ(box->text(), "#sub\\Names^3#A") << "nothing chosen, nothing changed";
+    window.EnableAbort();
+    Type("#");
+    window.DisableAbort();
+    EXPECT_EQ(box->text(), "#") << "the browser would hold the run up";
 }
 
 TEST_F(TableWindowTest, KeepsTheCellOpenWhileAnotherWindowHasTheFocus) {
@@ -268,6 +340,9 @@ TEST_F(TableWindowTest, KeepsTheCellOpenWhileAnotherWindowHasTheFocus) {
     EXPECT_TRUE(box->isVisible());
     EXPECT_EQ(window.InsertionTarget(), box);
     qobject_cast<QLineEdit*>(window.InsertionTarget())->insert("@1d6@");
+    editor->parentWidget()->showMinimized();
+    EXPECT_EQ(window.InsertionTarget(), box) << "hidden with its window only";
+    editor->parentWidget()->showNormal();
     editor->Export();
     EXPECT_EQ(Rows().substr(0, 9), "5|x@1d6@\n");
     EXPECT_EQ(window.InsertionTarget(), grid) << "the text box has gone";
@@ -295,6 +370,10 @@ TEST_F(TableWindowTest, AsksBeforeWorkIsLost) {
               "Orcs\xA4"
               "21");
     EXPECT_TRUE(editor->AskToSave()) << "nothing to ask about";
+    dialogs.WillAnswer(Answer::Cancel);
+    Click("btnNew");
+    EXPECT_EQ(dialogs.TakeLog().back(), "yes or no: Do You want to save file orcs.tbl ?");
+    EXPECT_EQ(Rows(), "6|A\n10|B\n|more\n5|C\n");
     // New always asks, and a save that fails or is cancelled keeps the table.
     dialogs.WillAnswer(Answer::No);
     Click("btnNew");
@@ -306,7 +385,7 @@ TEST_F(TableWindowTest, AsksBeforeWorkIsLost) {
     Click("btnNew");
     EXPECT_EQ(Field("txtTitle")->text(), "Elves");
     EXPECT_EQ(dialogs.TakeLog(),
-              (Log{kQuestion, "yes or no: Do You want to save file orcs.tbl ?",
+              (Log{"yes or no: Do You want to save file orcs.tbl ?",
                    "yes or no: Do You want to save file  ?",
                    "save: Table (*.tbl)|*.tbl|All files (*.*)|*.* at " + folder.Path()}));
     EXPECT_TRUE(editor->isWindowModified());
@@ -340,7 +419,8 @@ TEST_F(TableWindowTest, KeepsAFileBesideTheNewOneThatSaysLess) {
                  ";about\nT\xA4"
                  "6\n\n3\xA7"
                  "A\n3\xA7"
-                 "B\n6\xA7"
+                 "B\n3\xA7"
+                 "B2\n6\xA7"
                  "C\n");
     const std::string former = folder.Read("old.tbl");
     editor->Load(folder.Path("old.tbl"));
@@ -356,12 +436,12 @@ TEST_F(TableWindowTest, KeepsAFileBesideTheNewOneThatSaysLess) {
     EXPECT_EQ(folder.Read("old.tbl"),
               "T\xA4"
               "6\r\n\r\n3\xA7"
-              "A\r\nB\r\n6\xA7"
+              "A\r\nB\r\nB2\r\n6\xA7"
               "C\r\n");
     EXPECT_EQ(folder.Read("old.tbl~"), former);
     EXPECT_EQ(dialogs.TakeLog().front(),
-              "yes or no: Row 2 (\"B\") was an entry that no roll picks. With the weight 0 it "
-              "becomes another line of the entry above. Save the table so?");
+              "yes or no: Row 2 (\"B\") and 1 more row were entries that no roll picks. With the "
+              "weight 0 they become further lines of the entries above. Save the table so?");
     Click("btnSave");
     EXPECT_EQ(folder.Read("old.tbl~"), former) << "the second time nothing is lost";
 }
