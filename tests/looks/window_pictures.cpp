@@ -77,8 +77,9 @@ void TakePictures(const QDir& folder) {
     const std::vector<WindowKind> kinds = MakeWindowKinds(random);
     const ServiceSet services{engine, host, files, profile, dialogs, clipboard, printer, desktop};
     frmMain window(services, kinds);
-    window.resize(1280, 800);
     window.StartUp();
+    window.showNormal();
+    window.resize(1280, 800);
     const auto save = [&](QWidget& widget, const QString& name) {
         QTest::qWait(200);
         widget.grab().save(folder.filePath(name + QLatin1String(".png")));
