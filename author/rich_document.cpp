@@ -29,6 +29,8 @@ constexpr int kListStart = QTextFormat::UserProperty + 2;
 // paragraphs of ordinary words are parted far more seldom, at a blank.
 constexpr qsizetype kLongestWord = 4096;
 constexpr qsizetype kLongestBlock = 65536;
+// Each change of form inside of a word makes it as slow as so many more characters do.
+constexpr qsizetype kCharactersOfRun = 16;
 constexpr int kGoesOn = 1;
 
 double Pixels(int twips) { return twips / kTwipsPerPixel; }
@@ -219,6 +221,7 @@ class RunInserter {
                 GoOnInNextBlock();
             }
         }
+        lastWord_ += lastWord_ > 0 ? kCharactersOfRun : 0;
     }
 
   private:
@@ -238,7 +241,7 @@ class RunInserter {
     }
 
     QTextCursor& cursor_;
-    qsizetype lastWord_ = 0;  // Characters since the last blank.
+    qsizetype lastWord_ = 0;  // Characters since the last blank, and what its runs count for.
     qsizetype inBlock_ = 0;
 };
 

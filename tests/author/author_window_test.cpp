@@ -1,5 +1,6 @@
 #include "author/author_window.h"
 
+#include <QAbstractItemView>
 #include <QClipboard>
 #include <QComboBox>
 #include <QLineEdit>
@@ -245,6 +246,12 @@ TEST_F(AuthorWindowTest, OnlyWhatIsChosenOrTypedInTheBarChangesTheText) {
     EXPECT_EQ(QApplication::focusWidget(), author->findChild<QToolButton*>("btnBold"));
     EXPECT_EQ(Outline(), before);
     EXPECT_FALSE(box->document()->isModified());
+
+    size->showPopup();
+    QTest::keyClick(size->view(), Qt::Key_Return);
+    EXPECT_EQ(Outline(), "{48:smalllarge}") << "chosen, though it was the one that showed";
+    Click("btnUndo");
+    box->selectAll();
 
     font->setFocus();
     font->lineEdit()->selectAll();
