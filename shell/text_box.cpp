@@ -71,6 +71,13 @@ void TextBox::keyPressEvent(QKeyEvent* event) {
         event->accept();
         return;
     }
+    if (event->matches(QKeySequence::InsertLineSeparator) && !isReadOnly()) {
+        // Shift+Enter would put a character into the text that ends no line of a file.
+        QKeyEvent enter(event->type(), Qt::Key_Return, Qt::NoModifier);
+        QPlainTextEdit::keyPressEvent(&enter);
+        event->accept();
+        return;
+    }
     QPlainTextEdit::keyPressEvent(event);
 }
 

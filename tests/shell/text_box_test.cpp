@@ -58,6 +58,18 @@ TEST(TextBox, KeepsCharactersThatTheDocumentHasUsesFor) {
     EXPECT_GT(box.document()->blockCount(), 1);
 }
 
+TEST(TextBox, ShiftEnterEndsALine) {
+    TextBox box;
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+        QTest::keyClicks(&box, "a");
+        QTest::keyClick(&box, key, Qt::ShiftModifier);
+    }
+    EXPECT_EQ(box.Text(), "a\r\na\r\n");
+    box.setReadOnly(true);
+    QTest::keyClick(&box, Qt::Key_Return, Qt::ShiftModifier);
+    EXPECT_EQ(box.Text(), "a\r\na\r\n");
+}
+
 // Lines of any length stay one line, whatever is done where they are broken.
 TEST(TextBox, EditsLongLinesAsOne) {
     TextBox box;
