@@ -146,6 +146,24 @@ TEST(QtDesktop, MovesAFileToTheTrash) {
     qunsetenv("XDG_DATA_HOME");
 }
 
+TEST(QtDesktop, MakesTheTrashOfANewAccountAndTakesNoOtherFolderForIt) {
+    const TempFolder folder;
+    const std::filesystem::path former = std::filesystem::current_path();
+    std::filesystem::create_directory(folder.Path("current"));
+    std::filesystem::current_path(folder.Path("current"));
+    const std::string path = folder.Write("old.tbl", "content");
+    folder.Write("blocked/Trash", "a file");
+    qputenv("XDG_DATA_HOME", QByteArray::fromStdString(folder.Path("blocked")));
+    EXPECT_FALSE(QtDesktop().MoveToTrash(path));
+    EXPECT_EQ(folder.Read("old.tbl"), "content");
+    qputenv("XDG_DATA_HOME", QByteArray::fromStdString(folder.Path("new/share")));
+    EXPECT_TRUE(QtDesktop().MoveToTrash(path));
+    EXPECT_EQ(folder.Read("new/share/Trash/files/old.tbl"), "content");
+    EXPECT_TRUE(std::filesystem::is_empty(folder.Path("current")));
+    qunsetenv("XDG_DATA_HOME");
+    std::filesystem::current_path(former);
+}
+
 TEST(QtDesktop, StartsWhatIsInstalled) {
     EXPECT_TRUE(QtDesktop().StartProgram("true", {"an argument"}));
     EXPECT_FALSE(QtDesktop().StartProgram("quenloft-no-such-program", {}));
