@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QFontDatabase>
 
 #include "author/readme_text.h"
 #include "engine/program_title.h"
@@ -24,6 +25,8 @@ frmReadme::frmReadme(Workspace& workspace, const std::vector<std::string>& folde
     const QString caption = windowTitle();
     ui_->setupUi(this);
     setWindowTitle(caption);
+    // The manual is laid out in columns.
+    ui_->txtHelp->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     workspace_.ApplyFontSettings(*ui_->txtHelp, kOutputFont);
     ui_->txtHelp->SetText(ReadmeText(workspace_.Services().files, folders));
 }
