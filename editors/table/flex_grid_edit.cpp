@@ -7,6 +7,27 @@
 #include "editors/table/cell_movement.h"
 
 namespace quenloft {
+namespace {
+
+/// Keeps its selection while the focus is elsewhere: the toolbox puts its text there.
+class CellBox : public QLineEdit {
+  public:
+    using QLineEdit::QLineEdit;
+
+  protected:
+    void focusOutEvent(QFocusEvent* event) override {
+        const int start = selectionStart();
+        const int end = selectionEnd();
+        const int caret = cursorPosition();
+        QLineEdit::focusOutEvent(event);
+        if (start >= 0) {
+            const int anchor = caret == start ? end : start;
+            setSelection(anchor, caret - anchor);
+        }
+    }
+};
+
+}  // namespace
 
 clsFlexGridEdit::clsFlexGridEdit(QObject* parent) : QStyledItemDelegate(parent) {}
 
@@ -16,7 +37,7 @@ void clsFlexGridEdit::SetFlexGridControl(QTableView* grid) {
     delete editBox_;
     grid_ = grid;
     // One for all cells: who holds on to it while it is hidden finds it again.
-    editBox_ = new QLineEdit(grid->viewport());
+    editBox_ = new CellBox(grid->viewport());
     editBox_->setObjectName(QStringLiteral("tbFgEdit"));
     editBox_->setAccessibleName(tr("Cell"));
     editBox_->setMaxLength(std::numeric_limits<int>::max());

@@ -336,8 +336,12 @@ TEST_F(TableWindowTest, KeepsTheCellOpenWhileAnotherWindowHasTheFocus) {
     EXPECT_EQ(window.InsertionTarget(), grid);
     Type("x");
     EXPECT_EQ(window.InsertionTarget(), box);
+    Type("y");
+    box->setSelection(2, -1);
     window.Open(form::kSingleList)->findChild<QPushButton*>()->setFocus();
     EXPECT_TRUE(box->isVisible());
+    EXPECT_EQ(box->selectedText(), "y");
+    EXPECT_EQ(box->cursorPosition(), 1);
     EXPECT_EQ(window.InsertionTarget(), box);
     qobject_cast<QLineEdit*>(window.InsertionTarget())->insert("@1d6@");
     editor->parentWidget()->showMinimized();
