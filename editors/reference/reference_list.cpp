@@ -26,9 +26,7 @@ std::optional<Kind> KindOf(const FolderEntry& entry) {
     return extension == "SPT" ? std::optional(Kind::Script) : std::nullopt;
 }
 
-bool IsHidden(const FolderEntry& entry) {
-    return entry.isHidden || Trimmed(entry.name).starts_with('~');
-}
+bool IsHidden(const FolderEntry& entry) { return Trimmed(entry.name).starts_with('~'); }
 
 // A blank title would leave nothing to choose by.
 std::string TitleOrName(const std::string& title, std::string_view name) {

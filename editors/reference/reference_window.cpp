@@ -70,9 +70,9 @@ std::string frmReference::Choose(const std::string& folder) {
     files.LookAgain();
     place_ = ReferencePlace(files.AbsolutePath(folder.empty() ? "." : folder));
     result_.clear();
-    current_.clear();
     ui_->txtFilter->clear();
     ui_->txtFilter->setFocus();
+    current_.clear();
     ui_->updTimes->Box()->setText(QStringLiteral("1"));
     // The settings may have changed since it was last used.
     ui_->lvwReference->setFont(QFont());
@@ -108,8 +108,8 @@ void frmReference::GoUp() {
         workspace_.Services().dialogs.ShowMessage(kOtherDrives, MessageIcon::Warning);
         return;
     }
+    ui_->txtFilter->clear();  // First: it makes a row of the former folder the current one.
     current_ = place_.GoUp();
-    ui_->txtFilter->clear();
     Refill();
     if (!model_->List().Failure().empty()) {
         workspace_.Services().dialogs.ShowMessage(kNoFolder, MessageIcon::Warning);
@@ -155,9 +155,9 @@ void frmReference::Refresh() {
 }
 
 void frmReference::Enter(const std::string& name) {
+    ui_->txtFilter->clear();
     place_.Enter(name);
     current_.clear();
-    ui_->txtFilter->clear();
     Refill();
 }
 

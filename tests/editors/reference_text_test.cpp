@@ -91,7 +91,7 @@ class ReferenceListTest : public EngineFixture {
     ReferenceList list{engine};
 };
 
-TEST_F(ReferenceListTest, ListsFoldersTablesAndScriptsButNothingHidden) {
+TEST_F(ReferenceListTest, ListsFoldersTablesAndScriptsButNothingHiddenByATilde) {
     for (const char* name :
          {"lib/sub/x", "lib/~old/x", "lib/.git/x", "lib/notes.txt", "lib/a.b.tbl",
           "lib/Script.v1.SPT", "lib/village.SPT", "lib/bad.tbl", "lib/~s.spt"}) {
@@ -101,8 +101,8 @@ TEST_F(ReferenceListTest, ListsFoldersTablesAndScriptsButNothingHidden) {
     Table("lib/elves.tbl", " ");
     Fill();
     EXPECT_EQ(Rows(),
-              "sub=sub bad.tbl=!Invalid fileheader! elves.tbl=elves Orcs.TBL=Wild orcs "
-              "village.SPT=village ");
+              ".git=.git sub=sub bad.tbl=!Invalid fileheader! elves.tbl=elves "
+              "Orcs.TBL=Wild orcs village.SPT=village ");
     Fill(true);
     EXPECT_EQ(Rows(),
               ".git=.git sub=sub ~old=~old bad.tbl=!Invalid fileheader! elves.tbl=elves "

@@ -81,6 +81,21 @@ TEST_F(ReferenceWindowTest, ReturnsTheReferenceToAFileInAnotherFolder) {
         << "the capitals chosen last hold on";
 }
 
+TEST_F(ReferenceWindowTest, AFilterDoesNotDecideWhereOneStandsInTheNextFolder) {
+    folder.Write("lib/Tables/Deep/Away/y.spt", "");
+    folder.Write("lib/Tables/Deep/Deep/z.spt", "");
+    Choose([this] {
+        QTest::keyClicks(Get<QWidget>("txtFilter"), "woods");
+        Click("btnUpDirectory");
+        EXPECT_EQ(Current(), "Tables") << "where one came from";
+        Key("txtFilter", Qt::Key_Return);
+        QTest::keyClicks(Get<QWidget>("txtFilter"), "deep");
+        Key("txtFilter", Qt::Key_Return);
+        EXPECT_EQ(Current(), "Away") << "the first";
+        Click("btnCancel");
+    });
+}
+
 TEST_F(ReferenceWindowTest, EveryOtherWayOutReturnsNoReference) {
     EXPECT_EQ(Choose([this] { Click("btnSign"); }), "#");
     EXPECT_EQ(Choose([this] { Click("btnCancel"); }), "");
