@@ -12,9 +12,24 @@ namespace {
 // wrote is longer; in others the colours may be off.
 constexpr int kMostBlocks = 100;
 
+// How far the header of a table is looked for. Within the time of a paint, and below any comment
+// that a person would head a table with.
+constexpr int kMostBlocksBeforeHeader = 10'000;
+
 std::u16string_view View(const QString& text) {
     return {reinterpret_cast<const char16_t*>(text.constData()),
             static_cast<std::size_t>(text.size())};
+}
+
+QTextBlock FindHeader(const QTextDocument& table) {
+    QTextBlock block = table.firstBlock();
+    for (int i = 0; i < kMostBlocksBeforeHeader && block.isValid(); ++i, block = block.next()) {
+        const QString text = block.text();
+        if (!IsContinued(block) && !IsBeforeHeader(View(text))) {
+            return block;
+        }
+    }
+    return {};
 }
 
 }  // namespace
@@ -33,6 +48,7 @@ void VisibleColouring::SetColours(const CodeColours& colours) {
 }
 
 void VisibleColouring::Colour(const QTextBlock& first, const QTextBlock& last) {
+    header_ = language_ == Language::Table ? FindHeader(document_) : QTextBlock();
     Carry carry = CarryInto(first);
     int changedFrom = -1;
     int changedTo = -1;
@@ -93,18 +109,7 @@ bool VisibleColouring::BeginsText(const QTextBlock& block) const {
 }
 
 bool VisibleColouring::IsHeader(const QTextBlock& block) const {
-    const auto isBeforeHeader = [](const QTextBlock& line) {
-        const QString text = line.text();
-        return IsBeforeHeader(View(text));
-    };
-    if (language_ != Language::Table || !block.isValid() || isBeforeHeader(block)) {
-        return false;
-    }
-    QTextBlock before = block.previous();
-    for (int i = 0; i < kMostBlocks && before.isValid() && isBeforeHeader(before); ++i) {
-        before = before.previous();
-    }
-    return !before.isValid();
+    return block.isValid() && block == header_;
 }
 
 MarkSet VisibleColouring::LaterMarks(const QTextBlock& block, bool isHeader) const {

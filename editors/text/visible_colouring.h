@@ -42,6 +42,7 @@ class VisibleColouring {
     CodeColours colours_;
     Language language_ = Language::Script;
     unsigned generation_ = 0;  // Of language and colours.
+    QTextBlock header_;        // Of a table, during Colour().
 };
 
 }  // namespace quenloft
