@@ -174,8 +174,8 @@ bool frmImportTable::AskAboutFile() {
     if (file_.Path().empty()) {
         return AskToSave();
     }
-    return workspace_.Services().dialogs.AskYesNo(SaveQuestion(file_.Path())) != Answer::Yes ||
-           Import();
+    const Answer answer = workspace_.Services().dialogs.AskYesNo(SaveQuestion(file_.Path()));
+    return answer == Answer::No || (answer == Answer::Yes && Import());
 }
 
 QString frmImportTable::Hint() const {

@@ -85,9 +85,11 @@ void frmEdit::NewFile() {
         return;
     }
     Dialogs& dialogs = workspace_.Services().dialogs;
-    if (hasFile && dialogs.AskYesNo(SaveBeforeNewQuestion(file_.Path())) == Answer::Yes &&
-        !Save()) {
-        return;
+    if (hasFile) {
+        const Answer answer = dialogs.AskYesNo(SaveBeforeNewQuestion(file_.Path()));
+        if (answer == Answer::Cancel || (answer == Answer::Yes && !Save())) {
+            return;
+        }
     }
     file_.Forget();
     QTextCursor all(ui_->txtOut->document());
@@ -154,9 +156,12 @@ void frmEdit::Delete() {
             return;
         }
     }
-    // The text stays, and is nowhere else now.
     file_.Forget();
-    ui_->txtOut->document()->setModified(!ui_->txtOut->document()->isEmpty());
+    // The text stays, and is nowhere else now. What was saved is no longer: turned off and on
+    // again, the mark of change outlasts an undo back to it.
+    QTextDocument& document = *ui_->txtOut->document();
+    document.setModified(false);
+    document.setModified(!document.isEmpty());
     Refresh();
 }
 

@@ -125,6 +125,10 @@ TEST_F(ImporterTest, NothingLeavesUnasked) {
 TEST_F(ImporterTest, NewAsksAboutTheFileAndCanBeUndone) {
     const std::string path = folder.Write("a.txt", "a\nb\n");
     importer->Load(path);
+    dialogs.WillAnswer(Answer::Cancel);
+    Click("btnNew");
+    EXPECT_EQ(dialogs.TakeLog().size(), 1U);
+    EXPECT_EQ(text->Text(), "a\r\nb\r\n") << "the question was dismissed";
     dialogs.WillAnswer(Answer::No);
     Click("btnNew");
     EXPECT_EQ(dialogs.TakeLog(),

@@ -214,10 +214,16 @@ TEST_F(TextEditorTest, NewAsksAsItShouldAndUndoBringsTheTextBack) {
     EXPECT_EQ(dialogs.TakeLog().size(), 1U) << "text without a file is asked for as well";
     EXPECT_EQ(folder.Read("a.spt"), "old");
     editor->CloseUnasked();
+    editor = Load("b.spt", "kept");
+    dialogs.WillAnswer(Answer::Cancel);
+    Click(editor, "btnNew");
+    EXPECT_EQ(Text(editor), "kept") << "the question was dismissed";
+    dialogs.TakeLog();
 }
 
 TEST_F(TextEditorTest, DeletesTheFileAndKeepsTheText) {
     ChildWindow* editor = Load("a.spt", "text");
+    Type(editor, "x");
     dialogs.WillAnswer(Answer::No);
     Click(editor, "btnDelete");
     EXPECT_EQ(folder.Read("a.spt"), "text");
@@ -228,8 +234,11 @@ TEST_F(TextEditorTest, DeletesTheFileAndKeepsTheText) {
     Click(editor, "btnDelete");
     EXPECT_EQ(desktop.trashed, std::vector<std::string>{folder.Path("a.spt")});
     EXPECT_FALSE(files.FileExists("a.spt"));
-    EXPECT_EQ(Text(editor) + Title(editor), "textTable & Script Editor[*] changed");
+    EXPECT_EQ(Text(editor) + Title(editor), "xtextTable & Script Editor[*] changed");
     EXPECT_FALSE(editor->findChild<QPushButton*>("btnDelete")->isEnabled());
+    Box(editor).undo();
+    EXPECT_EQ(Text(editor) + Title(editor), "textTable & Script Editor[*] changed")
+        << "as the file was, which is gone";
     editor->CloseUnasked();
 }
 
@@ -387,6 +396,14 @@ TEST_F(TextEditorTest, ColoursWhatIsSeenAndFollowsChangesAbove) {
     box.undo();
     EXPECT_FALSE(editor->isWindowModified()) << "colours are no change";
     EXPECT_EQ(formats(3), "0+3 ");
+    cursor.setPosition(0);
+    for (int i = 0; i < 150; ++i) {
+        cursor.insertText("; a comment\n");
+    }
+    cursor.movePosition(QTextCursor::NextBlock);
+    box.setTextCursor(cursor);
+    EXPECT_EQ(formats(150), "0+1 1+1 2+1 ") << "the header is below any comment";
+    editor->CloseUnasked();
 }
 
 TEST(CodeColoursTest, CanBeReadOnAnyBackground) {
