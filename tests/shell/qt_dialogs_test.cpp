@@ -148,7 +148,6 @@ TEST(QtDesktop, MovesAFileToTheTrash) {
 
 TEST(QtDesktop, MakesTheTrashOfANewAccountAndTakesNoOtherFolderForIt) {
     const TempFolder folder;
-    const std::filesystem::path former = std::filesystem::current_path();
     std::filesystem::create_directory(folder.Path("current"));
     std::filesystem::current_path(folder.Path("current"));
     const std::string path = folder.Write("old.tbl", "content");
@@ -161,7 +160,7 @@ TEST(QtDesktop, MakesTheTrashOfANewAccountAndTakesNoOtherFolderForIt) {
     EXPECT_EQ(folder.Read("new/share/Trash/files/old.tbl"), "content");
     EXPECT_TRUE(std::filesystem::is_empty(folder.Path("current")));
     qunsetenv("XDG_DATA_HOME");
-    std::filesystem::current_path(former);
+    std::filesystem::current_path(std::filesystem::temp_directory_path());
 }
 
 TEST(QtDesktop, StartsWhatIsInstalled) {
