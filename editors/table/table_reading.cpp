@@ -112,6 +112,11 @@ class TableReader {
     }
 
     void TakeHeader(std::string_view line) {
+        // Once the lines above it are gone, it would be taken for that of the file.
+        constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+        while (line.starts_with(kByteOrderMark)) {
+            line.remove_prefix(kByteOrderMark.size());
+        }
         const std::size_t mark = line.find(kVariableMark);
         if (mark != std::string_view::npos) {
             result_.content.modifier = line.substr(mark);

@@ -215,9 +215,9 @@ void frmEdit_Table::ModifierEdited() {
 void frmEdit_Table::clsFGEdit_TextKeyDown(QLineEdit* editBox, int KeyCode,
                                           Qt::KeyboardModifiers Shift) {
     const Qt::KeyboardModifiers held = Shift & ~Qt::KeypadModifier;
-    const auto instead = [this](void (TableGrid::*operation)()) {
-        grdTable_->CellEditor().SwallowKey();
-        (grdTable_->*operation)();
+    const auto instead = [grid = grdTable_](void (TableGrid::*operation)()) {
+        grid->CellEditor().SwallowKey();
+        (grid->*operation)();
     };
     const bool isEnter = KeyCode == Qt::Key_Return || KeyCode == Qt::Key_Enter;
     if (KeyCode == Qt::Key_NumberSign && !(held & (Qt::ControlModifier | Qt::MetaModifier))) {
