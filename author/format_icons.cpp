@@ -1,54 +1,24 @@
 #include "author/format_icons.h"
 
-#include <QIconEngine>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPalette>
 #include <functional>
+#include <utility>
+
+#include "shell/drawn_icon.h"
 
 namespace quenloft {
 namespace {
 
-// Pictures are drawn on a field of this size, which is then brought to the one that is needed.
-constexpr double kField = 16;
-
 using Drawing = std::function<void(QPainter& painter, const QColor& ink)>;
 
-class DrawnIcon : public QIconEngine {
-  public:
-    DrawnIcon(Drawing drawing, const QPalette& palette)
-        : drawing_(std::move(drawing)), palette_(palette) {}
-
-    QIconEngine* clone() const override { return new DrawnIcon(drawing_, palette_); }
-
-    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
-        const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
-        painter->save();
-        painter->setRenderHint(QPainter::Antialiasing);
-        painter->translate(rect.topLeft());
-        painter->scale(rect.width() / kField, rect.height() / kField);
-        drawing_(*painter, palette_.color(group, QPalette::ButtonText));
-        painter->restore();
-    }
-
-    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-        if (size.isEmpty()) {
-            return {};  // There is no room for it, and nothing to paint on.
-        }
-        QPixmap picture(size);
-        picture.fill(Qt::transparent);
-        QPainter painter(&picture);
-        paint(&painter, QRect(QPoint(), size), mode, state);
-        return picture;
-    }
-
-  private:
-    Drawing drawing_;
-    QPalette palette_;
-};
-
 QIcon Drawn(Drawing drawing, const QPalette& palette) {
-    return QIcon(new DrawnIcon(std::move(drawing), palette));
+    return DrawnIcon(
+        [drawing = std::move(drawing), palette](QPainter& painter, QIcon::Mode mode, QIcon::State) {
+            const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
+            drawing(painter, palette.color(group, QPalette::ButtonText));
+        });
 }
 
 // A line of text at `y`.
@@ -135,7 +105,7 @@ QIcon UndoIcon(const QPalette& palette) { return Drawn(DrawTurn, palette); }
 QIcon RedoIcon(const QPalette& palette) {
     return Drawn(
         [](QPainter& painter, const QColor& ink) {
-            painter.translate(kField, 0);
+            painter.translate(kIconUnits, 0);
             painter.scale(-1, 1);
             DrawTurn(painter, ink);
         },
@@ -145,7 +115,7 @@ QIcon RedoIcon(const QPalette& palette) {
 QIcon LetterIcon(QChar letter, const QFont& font, const QPalette& palette) {
     return Drawn(
         [letter, font](QPainter& painter, const QColor& ink) {
-            DrawLetter(painter, ink, letter, font, QRectF(0, 1, kField, 13));
+            DrawLetter(painter, ink, letter, font, QRectF(0, 1, kIconUnits, 13));
         },
         palette);
 }
@@ -153,7 +123,7 @@ QIcon LetterIcon(QChar letter, const QFont& font, const QPalette& palette) {
 QIcon ColorIcon(const Color& color, const QPalette& palette) {
     return Drawn(
         [color](QPainter& painter, const QColor& ink) {
-            DrawLetter(painter, ink, QStringLiteral("A"), QFont(), QRectF(0, 0, kField, 11));
+            DrawLetter(painter, ink, QStringLiteral("A"), QFont(), QRectF(0, 0, kIconUnits, 11));
             painter.fillRect(QRectF(1, 12, 14, 3.5), color ? QColor::fromRgb(*color) : ink);
         },
         palette);

@@ -7,33 +7,17 @@
 
 #include "dice/probability_window.h"
 #include "dice/simulation_on.h"
-#include "engine/engine.h"
-#include "platform/linux/linux_file_system.h"
-#include "platform/linux/linux_profile_file.h"
-#include "platform/linux/system_random_source.h"
 #include "shell/form_names.h"
 #include "shell/main_window.h"
-#include "shell/qt_engine_host.h"
-#include "tests/support/fake_devices.h"
-#include "tests/support/fake_dialogs.h"
-#include "tests/support/temp_folder.h"
+#include "tests/support/temp_program.h"
 
 namespace quenloft {
 namespace {
 
 void ClickToScreen(benchmark::State& state) {
-    const TempFolder folder;
-    LinuxFileSystem files;
-    LinuxProfileFile profile(files, folder.Path("quenloft"), folder.Path("config"));
-    SystemRandomSource random;
-    FakeDialogs dialogs;
-    FakeClipboard clipboard;
-    FakePrinter printer;
-    FakeDesktop desktop;
-    QtEngineHost host(dialogs);
-    Engine engine(files, random, host);
-    SimulationOn<SystemRandomSource> simulation(random);
-    frmMain window({engine, host, files, profile, dialogs, clipboard, printer, desktop},
+    TempProgram program;
+    SimulationOn<SystemRandomSource> simulation(program.random);
+    frmMain window(program.Services(),
                    {{form::kProbability, Instances::Many, [&simulation](Workspace& workspace) {
                          return new frmProbability(workspace, simulation);
                      }}});
@@ -56,11 +40,3 @@ BENCHMARK(ClickToScreen)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 }  // namespace
 }  // namespace quenloft
-
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

@@ -8,16 +8,10 @@
 
 #include "editors/table/table_grid.h"
 #include "editors/table/table_window.h"
-#include "engine/engine.h"
-#include "platform/linux/linux_file_system.h"
-#include "platform/linux/linux_profile_file.h"
-#include "platform/linux/system_random_source.h"
+#include "platform/text_encoding.h"
 #include "shell/form_names.h"
 #include "shell/main_window.h"
-#include "shell/qt_engine_host.h"
-#include "tests/support/fake_devices.h"
-#include "tests/support/fake_dialogs.h"
-#include "tests/support/temp_folder.h"
+#include "tests/support/temp_program.h"
 
 namespace quenloft {
 namespace {
@@ -37,7 +31,7 @@ std::string TableBytes() {
 class Editor {
   public:
     Editor() {
-        path = folder.Write("big.tbl", TableBytes());
+        path = program.folder.Write("big.tbl", TableBytes());
         window.resize(1280, 800);
         window.show();
         editor = window.Open(form::kEditTable);
@@ -48,18 +42,9 @@ class Editor {
         window.repaint();
     }
 
-    TempFolder folder;
+    TempProgram program;
     std::string path;
-    LinuxFileSystem files;
-    LinuxProfileFile profile{files, folder.Path() + "/quenloft", folder.Path() + "/config"};
-    SystemRandomSource random;
-    FakeDialogs dialogs;
-    FakeClipboard clipboard;
-    FakePrinter printer;
-    FakeDesktop desktop;
-    QtEngineHost host{dialogs};
-    Engine engine{files, random, host};
-    frmMain window{{engine, host, files, profile, dialogs, clipboard, printer, desktop},
+    frmMain window{program.Services(),
                    {{form::kEditTable, Instances::Many,
                      [](Workspace& workspace) { return new frmEdit_Table(workspace); }}}};
     ChildWindow* editor = nullptr;
@@ -129,11 +114,3 @@ BENCHMARK(TypeWeight)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 }  // namespace
 }  // namespace quenloft
-
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

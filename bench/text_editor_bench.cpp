@@ -10,17 +10,10 @@
 
 #include "editors/text/code_box.h"
 #include "editors/text/text_window.h"
-#include "engine/engine.h"
-#include "platform/linux/linux_file_system.h"
-#include "platform/linux/linux_profile_file.h"
-#include "platform/linux/system_random_source.h"
 #include "platform/qt/qt_text.h"
 #include "shell/form_names.h"
 #include "shell/main_window.h"
-#include "shell/qt_engine_host.h"
-#include "tests/support/fake_devices.h"
-#include "tests/support/fake_dialogs.h"
-#include "tests/support/temp_folder.h"
+#include "tests/support/temp_program.h"
 
 namespace quenloft {
 namespace {
@@ -48,14 +41,14 @@ std::string OneLine() {
 class EditorOnScreen {
   public:
     explicit EditorOnScreen(const std::string& text = Script()) {
-        folder_.Write("script.spt", text);
+        program_.folder.Write("script.spt", text);
         window_.resize(kSize);
         window_.show();
     }
 
     frmEdit* Open() {
         auto* editor = qobject_cast<frmEdit*>(window_.Open(form::kEdit));
-        editor->Load(folder_.Path("script.spt"));
+        editor->Load(program_.folder.Path("script.spt"));
         QApplication::processEvents();
         return editor;
     }
@@ -63,19 +56,10 @@ class EditorOnScreen {
     static constexpr QSize kSize{1280, 800};
 
   private:
-    TempFolder folder_;
-    LinuxFileSystem files_;
-    LinuxProfileFile profile_{files_, folder_.Path("quenloft"), folder_.Path("config")};
-    SystemRandomSource random_;
-    FakeDialogs dialogs_;
-    FakeClipboard clipboard_;
-    FakePrinter printer_;
-    FakeDesktop desktop_;
-    QtEngineHost host_{dialogs_};
-    Engine engine_{files_, random_, host_};
-    frmMain window_{{engine_, host_, files_, profile_, dialogs_, clipboard_, printer_, desktop_},
-                    {{form::kEdit, Instances::Many,
-                      [](Workspace& workspace) { return new frmEdit(workspace); }}}};
+    TempProgram program_;
+    frmMain window_{program_.Services(), {{form::kEdit, Instances::Many, [](Workspace& workspace) {
+                                               return new frmEdit(workspace);
+                                           }}}};
 };
 
 void OpenInBareBox(benchmark::State& state) {
@@ -121,11 +105,3 @@ BENCHMARK_CAPTURE(TypeLetters, InOneLongLine, OneLine(), 0.5)->Unit(benchmark::k
 
 }  // namespace
 }  // namespace quenloft
-
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

@@ -13,16 +13,9 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "engine/engine.h"
-#include "platform/linux/linux_file_system.h"
-#include "platform/linux/linux_profile_file.h"
-#include "platform/linux/system_random_source.h"
 #include "shell/main_window.h"
-#include "shell/qt_engine_host.h"
 #include "shell/window_kinds.h"
-#include "tests/support/fake_devices.h"
-#include "tests/support/fake_dialogs.h"
-#include "tests/support/temp_folder.h"
+#include "tests/support/temp_program.h"
 
 namespace quenloft {
 namespace {
@@ -51,20 +44,12 @@ int PaintEmptyWindow() {
     return QApplication::exec();
 }
 
-/// The program's parts as main.cpp makes them, over the profile in `folder`.
+/// The program over the profile in `folder`.
 int PaintProgram(const std::string& folder) {
-    LinuxFileSystem files;
-    LinuxProfileFile profile(files, folder + "/quenloft", folder + "/config");
-    SystemRandomSource random;
     FakeDialogs dialogs;
-    FakeClipboard clipboard;
-    FakePrinter printer;
-    FakeDesktop desktop;
-    QtEngineHost host(dialogs);
-    Engine engine(files, random, host);
+    ProgramParts program(folder, dialogs);
     const EndAtFirstPaint end;
-    frmMain window({engine, host, files, profile, dialogs, clipboard, printer, desktop},
-                   MakeWindowKinds(random));
+    frmMain window(program.Services(), MakeWindowKinds(program.random));
     window.StartUp();
     return QApplication::exec();
 }

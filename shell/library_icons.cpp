@@ -1,16 +1,14 @@
 #include "shell/library_icons.h"
 
 #include <QGuiApplication>
-#include <QIconEngine>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPalette>
 
+#include "shell/drawn_icon.h"
+
 namespace quenloft {
 namespace {
-
-// Everything is drawn on a square of 16 units.
-constexpr double kUnits = 16;
 
 const QColor kFolderFill(0xF2, 0xC0, 0x55);
 const QColor kFolderEdge(0xB0, 0x7D, 0x1B);
@@ -23,42 +21,15 @@ const QColor kDeleteEdge(0xC6, 0x3B, 0x36);
 
 using Draw = void (*)(QPainter& painter, bool open);
 
-class DrawnIcon : public QIconEngine {
-  public:
-    explicit DrawnIcon(Draw draw) : draw_(draw) {}
-
-    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode,
-               QIcon::State state) override {
-        painter->save();
-        painter->setRenderHint(QPainter::Antialiasing);
-        painter->translate(rect.topLeft());
-        painter->scale(rect.width() / kUnits, rect.height() / kUnits);
+QIcon IconOf(Draw draw) {
+    return DrawnIcon([draw](QPainter& painter, QIcon::Mode mode, QIcon::State state) {
         if (mode == QIcon::Disabled) {
             constexpr double kFaded = 0.35;
-            painter->setOpacity(kFaded);
+            painter.setOpacity(kFaded);
         }
-        draw_(*painter, state == QIcon::On);
-        painter->restore();
-    }
-
-    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-        if (size.isEmpty()) {
-            return {};  // There is no room for it, and nothing to paint on.
-        }
-        QPixmap pixmap(size);
-        pixmap.fill(Qt::transparent);
-        QPainter painter(&pixmap);
-        paint(&painter, QRect(QPoint(), size), mode, state);
-        return pixmap;
-    }
-
-    QIconEngine* clone() const override { return new DrawnIcon(draw_); }
-
-  private:
-    Draw draw_;
-};
-
-QIcon IconOf(Draw draw) { return QIcon(new DrawnIcon(draw)); }
+        draw(painter, state == QIcon::On);
+    });
+}
 
 QPen LinePen(const QColor& color, double width = 1.2) {
     return {color, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};

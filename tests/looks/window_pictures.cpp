@@ -13,21 +13,14 @@
 #include <map>
 #include <string_view>
 
-#include "engine/engine.h"
-#include "platform/linux/linux_file_system.h"
-#include "platform/linux/linux_profile_file.h"
-#include "platform/linux/system_random_source.h"
 #include "platform/qt/qt_text.h"
 #include "shell/child_window.h"
 #include "shell/form_names.h"
 #include "shell/main_window.h"
 #include "shell/program_icon.h"
-#include "shell/qt_engine_host.h"
 #include "shell/settings_dialog.h"
 #include "shell/window_kinds.h"
-#include "tests/support/fake_devices.h"
-#include "tests/support/fake_dialogs.h"
-#include "tests/support/temp_folder.h"
+#include "tests/support/temp_program.h"
 
 namespace quenloft {
 namespace {
@@ -62,20 +55,11 @@ const std::map<std::string_view, const char*> kFiles = {
 };
 
 void TakePictures(const QDir& folder) {
-    LinuxFileSystem files;
     const std::string library = QUENLOFT_LIBRARY;
-    const TempFolder state;
-    state.Write("quenloft.INI", "[Settings]\r\nLibpath=" + library + "\r\n");
-    LinuxProfileFile profile(files, state.Path("quenloft"), state.Path("config"));
-    SystemRandomSource random;
-    FakeDialogs dialogs;
-    FakeClipboard clipboard;
-    FakePrinter printer;
-    FakeDesktop desktop;
-    QtEngineHost host(dialogs);
-    Engine engine(files, random, host);
-    const std::vector<WindowKind> kinds = MakeWindowKinds(random);
-    const ServiceSet services{engine, host, files, profile, dialogs, clipboard, printer, desktop};
+    TempProgram program;
+    program.folder.Write("quenloft.INI", "[Settings]\r\nLibpath=" + library + "\r\n");
+    const std::vector<WindowKind> kinds = MakeWindowKinds(program.random);
+    const ServiceSet services = program.Services();
     frmMain window(services, kinds);
     window.StartUp();
     window.showNormal();
