@@ -10,7 +10,7 @@
 #include <QTextBlock>
 
 #include "author/format_icons.h"
-#include "author/rich_document.h"
+#include "author/qt_formats.h"
 #include "author/rich_text_box.h"
 #include "ui_format_bar.h"
 

@@ -3,10 +3,8 @@
 
 #include "author/rich_text.h"
 
-class QTextBlock;
 class QTextCursor;
 class QTextDocument;
-class QTextListFormat;
 
 namespace quenloft {
 
@@ -25,11 +23,5 @@ void InsertText(const RichText& text, QTextCursor& cursor);
 /// What the document shows, every font and size named. Pictures are left out; cells of a table are
 /// parted by tabs, its rows are paragraphs.
 RichText TextOf(const QTextDocument& document);
-
-/// The list that `block` is an item of; ListKind::None where it is of none.
-ListItem ListItemOf(const QTextBlock& block);
-
-/// A list of this kind and level, as ShowText makes them, that begins with item `start`.
-QTextListFormat ListFormatOf(ListKind kind, int level, int start = 1);
 
 }  // namespace quenloft

@@ -8,6 +8,7 @@
 #include <QTextList>
 #include <algorithm>
 
+#include "author/qt_formats.h"
 #include "author/rich_document.h"
 #include "author/rtf_reader.h"
 #include "author/rtf_writer.h"

@@ -104,6 +104,22 @@ GoOn AnalysisWindow::Counter(const QCheckBox* box, QLabel* number) {
     };
 }
 
+void AnalysisWindow::PerformScript(
+    QCheckBox* openEnded,
+    const std::function<void(const ScriptParts& parts, const std::string& path)>& work) {
+    const std::string path = ChooseScript();
+    if (path.empty()) {
+        return;
+    }
+    Perform([&](ReportLines& lines) {
+        const WaitCursor wait;
+        const ServiceSet& services = workspace_.Services();
+        work({services.files, services.profile, lines,
+              [openEnded](bool on) { openEnded->setChecked(on); }, scriptRolls_},
+             path);
+    });
+}
+
 std::string AnalysisWindow::ChooseScript() {
     if (workspace_.IsRunning()) {
         return {};

@@ -2,9 +2,12 @@
 // it, and a run that may fail.
 #pragma once
 
+#include <cstdint>
 #include <functional>
+#include <string>
 
 #include "dice/analyses.h"
+#include "dice/analysis_script.h"
 #include "dice/report_lines.h"
 #include "shell/child_window.h"
 
@@ -46,16 +49,22 @@ class AnalysisWindow : public ChildWindow {
     /// Shows the number of rolls done, at most 30 times a second; empty where `box` is unchecked.
     static GoOn Counter(const QCheckBox* box, QLabel* number);
 
-    /// The file of a configuration script that the user chooses; empty on Cancel, and without a
-    /// dialog while a run is going on anywhere.
-    std::string ChooseScript();
+    /// Lets the user choose a configuration script and performs `work` with it and its path, with
+    /// the wait cursor; a script may set `openEnded`. Does nothing on Cancel, and shows no dialog
+    /// while a run is going on anywhere.
+    void PerformScript(
+        QCheckBox* openEnded,
+        const std::function<void(const ScriptParts& parts, const std::string& path)>& work);
     void CopyList();
     /// Does nothing while a run is going on anywhere.
     void SaveList();
     void ClearList();
 
   private:
+    std::string ChooseScript();
+
     ResultList* list_ = nullptr;
+    std::int32_t scriptRolls_ = 0;  // See ScriptParts.
 };
 
 }  // namespace quenloft

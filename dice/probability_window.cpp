@@ -3,7 +3,6 @@
 #include "dice/analysis_script.h"
 #include "platform/qt/qt_text.h"
 #include "shell/form_names.h"
-#include "shell/wait_cursor.h"
 #include "shell/workspace.h"
 #include "ui_probability_window.h"
 
@@ -43,18 +42,10 @@ void frmProbability::Roll() {
 }
 
 void frmProbability::RunScript() {
-    const std::string path = ChooseScript();
-    if (path.empty()) {
-        return;
-    }
-    Perform([this, &path](ReportLines& lines) {
-        const WaitCursor wait;
-        const ServiceSet& services = workspace_.Services();
-        RunTotalsScript({services.files, services.profile, lines,
-                         [this](bool on) { ui_->chkOpenEnded->setChecked(on); }, scriptRolls_},
-                        path, [this, &lines](const clsRoll& handful, std::int32_t rolls) {
-                            Start(handful, rolls, lines);
-                        });
+    PerformScript(ui_->chkOpenEnded, [this](const ScriptParts& parts, const std::string& path) {
+        RunTotalsScript(parts, path, [&](const clsRoll& handful, std::int32_t rolls) {
+            Start(handful, rolls, parts.lines);
+        });
     });
 }
 

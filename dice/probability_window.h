@@ -31,7 +31,6 @@ class frmProbability : public AnalysisWindow {
 
     std::unique_ptr<Ui::frmProbability> ui_;
     Simulation& simulation_;
-    std::int32_t scriptRolls_ = 0;  // Of the last entry of a script.
 };
 
 }  // namespace quenloft

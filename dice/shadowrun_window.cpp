@@ -4,7 +4,6 @@
 #include "engine/numbers.h"
 #include "platform/qt/qt_text.h"
 #include "shell/form_names.h"
-#include "shell/wait_cursor.h"
 #include "shell/workspace.h"
 #include "ui_shadowrun_window.h"
 
@@ -51,16 +50,8 @@ void frmShadowrunProbability::Roll() {
 }
 
 void frmShadowrunProbability::RunScript() {
-    const std::string path = ChooseScript();
-    if (path.empty()) {
-        return;
-    }
-    Perform([this, &path](ReportLines& lines) {
-        const WaitCursor wait;
-        const ServiceSet& services = workspace_.Services();
-        RunTargetScript({services.files, services.profile, lines,
-                         [this](bool on) { ui_->chkOpenEnded->setChecked(on); }, scriptRolls_},
-                        path, [this, &lines](const TargetPool& pool) { Start(pool, lines); });
+    PerformScript(ui_->chkOpenEnded, [this](const ScriptParts& parts, const std::string& path) {
+        RunTargetScript(parts, path, [&](const TargetPool& pool) { Start(pool, parts.lines); });
     });
 }
 

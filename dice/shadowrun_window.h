@@ -31,7 +31,6 @@ class frmShadowrunProbability : public AnalysisWindow {
     std::unique_ptr<Ui::frmShadowrunProbability> ui_;
     Simulation& simulation_;
     SuccessCounts counts_;
-    std::int32_t scriptRolls_ = 0;  // Of the last entry of a script.
 };
 
 }  // namespace quenloft

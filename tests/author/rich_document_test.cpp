@@ -7,6 +7,7 @@
 #include <QTextList>
 #include <gtest/gtest.h>
 
+#include "author/qt_formats.h"
 #include "tests/author/random_text.h"
 #include "tests/author/rich_text_outline.h"
 
