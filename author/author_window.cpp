@@ -3,6 +3,7 @@
 #include <QPointer>
 #include <QShortcut>
 
+#include "author/rtf_writer.h"
 #include "platform/dialogs.h"
 #include "platform/file_system.h"
 #include "platform/printer.h"
@@ -10,6 +11,7 @@
 #include "platform/replacing.h"
 #include "shell/font_settings.h"
 #include "shell/form_names.h"
+#include "shell/recovery/kept_text.h"
 #include "shell/workspace.h"
 #include "ui_author_window.h"
 
@@ -81,19 +83,24 @@ void frmAuthor::PrintContent() {
     }
 }
 
+std::optional<UnsavedWork> frmAuthor::Unsaved() const {
+    const QTextDocument& document = *ui_->rtfAuthor->document();
+    if (!IsModified() || (document.isEmpty() && file_.Path().empty())) {
+        return std::nullopt;
+    }
+    return UnsavedWork{file_.Path(), file_.Base(), static_cast<std::uint64_t>(document.revision()),
+                       [this] { return WriteRtf(ui_->rtfAuthor->Text()); }};
+}
+
+void frmAuthor::PutBack(const KeptText& kept) {
+    file_.Resume(kept.path, kept.base);
+    ui_->rtfAuthor->SetText(ReadRtf(kept.text).text);
+    ui_->rtfAuthor->document()->setModified(true);
+    Refresh();
+}
+
 bool frmAuthor::AskToSave() {
-    if (!IsModified()) {
-        return true;
-    }
-    switch (workspace_.Services().dialogs.AskYesNoCancel(kSaveQuestion)) {
-        case Answer::Yes:
-            return Save();
-        case Answer::No:
-            return true;
-        case Answer::Cancel:
-            break;
-    }
-    return false;
+    return !IsModified() || SaveOrGiveUp(kSaveQuestion, [this] { return Save(); });
 }
 
 bool frmAuthor::Save() { return file_.Path().empty() ? SaveAs() : WriteTo(file_.Path()); }
@@ -111,9 +118,12 @@ void frmAuthor::Refresh() {
     const std::string& path = file_.Path();
     QString title = tr("Author Area");
     if (!path.empty()) {
-        title += u' ' + ToQt(path.substr(path.rfind('/') + 1));
+        // In a caption "[*]" is the place of the mark of change, and twice is the text.
+        title += u' ' + ToQt(path.substr(path.rfind('/') + 1))
+                            .replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
     }
-    setWindowTitle(title + QLatin1String(IsModified() ? "*" : ""));
+    setWindowTitle(title + QLatin1String("[*]"));
+    setWindowModified(IsModified());
 }
 
 bool frmAuthor::SaveFirst() {

@@ -26,6 +26,9 @@ class frmAuthor : public ChildWindow {
     void OpenFile() override;
     void Load(const std::string& path) override;
     void PrintContent() override;
+    /// As RTF.
+    std::optional<UnsavedWork> Unsaved() const override;
+    void PutBack(const KeptText& kept) override;
     bool AskToSave() override;
 
   private:

@@ -1,26 +1,34 @@
 #include "author/notes_file.h"
 
-#include <functional>
-
 #include "author/plain_text.h"
 #include "author/rtf_writer.h"
 #include "platform/file_system.h"
+#include "platform/fingerprint.h"
 
 namespace quenloft {
-
-NotesFile::Fingerprint::Fingerprint(std::string_view bytes)
-    : size(bytes.size()), hash(std::hash<std::string_view>()(bytes)) {}
 
 RichText NotesFile::Read(const std::string& path) {
     const std::string bytes = files_.ReadBytes(path);
     const bool isRtf = IsRtf(bytes);
     RtfContent content = isRtf ? ReadRtf(bytes) : ReadPlainText(bytes);
     path_ = files_.NativePath(path);
-    onDisk_ = Fingerprint(bytes);
+    base_ = Fingerprint(bytes);
     losses_ = std::move(content.losses);
     // An empty file becomes what is saved into it.
     isPlainText_ = !isRtf && !bytes.empty();
     return std::move(content.text);
+}
+
+void NotesFile::Resume(const std::string& path, const std::string& base) {
+    if (path.empty()) {
+        return;
+    }
+    try {
+        Read(path);  // For what would be lost from it.
+    } catch (const FileError&) {
+        path_ = files_.NativePath(path);  // Saving makes it again.
+    }
+    base_ = base;
 }
 
 void NotesFile::Write(const std::string& path, const RichText& text) {
@@ -28,7 +36,7 @@ void NotesFile::Write(const std::string& path, const RichText& text) {
     files_.WriteBytes(path, bytes);
     files_.LookAgain();
     path_ = files_.NativePath(path);
-    onDisk_ = Fingerprint(bytes);
+    base_ = Fingerprint(bytes);
     losses_.clear();
     isPlainText_ = false;
 }
@@ -55,7 +63,7 @@ std::vector<std::string> NotesFile::QuestionsBefore(const std::string& path) con
 
 bool NotesFile::ChangedOnDisk() const {
     try {
-        return Fingerprint(files_.ReadBytes(path_)) != onDisk_;
+        return Fingerprint(files_.ReadBytes(path_)) != base_;
     } catch (const FileError&) {
         return false;  // It is gone, or writing will tell what is wrong with it.
     }

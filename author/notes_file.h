@@ -1,7 +1,6 @@
 // The file behind the notes of one window.
 #pragma once
 
-#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -23,7 +22,12 @@ class NotesFile {
 
     /// Throws FileError, and then remains as it was.
     RichText Read(const std::string& path);
-    /// Likewise. `path` is what Path() gives from then on.
+    /// Makes `path` the file of notes that were begun with the content `base`. An empty one is no
+    /// file. Never fails.
+    void Resume(const std::string& path, const std::string& base);
+    /// Fingerprint of what the file held when it was read or written last; empty without a file.
+    const std::string& Base() const { return base_; }
+    /// As Read. `path` is what Path() gives from then on.
     void Write(const std::string& path, const RichText& text);
 
     /// What writing to `path` would destroy, as questions to be answered with yes or no, the most
@@ -31,18 +35,11 @@ class NotesFile {
     std::vector<std::string> QuestionsBefore(const std::string& path) const;
 
   private:
-    /// Enough to tell that a file has changed; the bytes themselves may be many.
-    struct Fingerprint {
-        explicit Fingerprint(std::string_view bytes = {});
-        bool operator==(const Fingerprint&) const = default;
-        std::size_t size;
-        std::size_t hash;
-    };
     bool ChangedOnDisk() const;
 
     FileSystem& files_;
     std::string path_;
-    Fingerprint onDisk_;
+    std::string base_;
     std::vector<Loss> losses_;
     bool isPlainText_ = false;
 };

@@ -3,8 +3,11 @@
 #include <QCloseEvent>
 #include <QMdiSubWindow>
 #include <QMetaObject>
+#include <QPointer>
 
 #include "engine/engine.h"
+#include "platform/dialogs.h"
+#include "shell/recovery/kept_text.h"
 #include "shell/workspace.h"
 
 namespace quenloft {
@@ -34,6 +37,10 @@ QSize ChildWindow::OpeningSize(QSize area) const { return sizeHint().boundedTo(a
 QPlainTextEdit* ChildWindow::OutputBoxOf(const QWidget& /*control*/) { return nullptr; }
 
 void ChildWindow::Load(const std::string& /*path*/) {}
+
+std::optional<UnsavedWork> ChildWindow::Unsaved() const { return std::nullopt; }
+
+void ChildWindow::PutBack(const KeptText& /*kept*/) {}
 
 void ChildWindow::CloseWindow() {
     if (auto* frame = qobject_cast<QMdiSubWindow*>(parentWidget())) {
@@ -70,6 +77,13 @@ void ChildWindow::closeEvent(QCloseEvent* event) {
     }
     SaveState();
     event->accept();
+}
+
+bool ChildWindow::SaveOrGiveUp(const std::string& question, const std::function<bool()>& save) {
+    // The window may go while the question stands.
+    const QPointer<ChildWindow> self(this);
+    const Answer answer = workspace_.Services().dialogs.AskYesNoCancel(question);
+    return self && (answer == Answer::No || (answer == Answer::Yes && save()));
 }
 
 void ChildWindow::MoveIntoView() {

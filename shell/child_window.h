@@ -2,6 +2,9 @@
 #pragma once
 
 #include <QWidget>
+#include <cstdint>
+#include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -10,6 +13,7 @@ class QPlainTextEdit;
 namespace quenloft {
 
 class Workspace;
+struct KeptText;
 
 /// A place inside the main window in twips: 15 twips are one pixel at 96 dpi.
 struct TwipsPoint {
@@ -19,6 +23,14 @@ struct TwipsPoint {
 
 /// `twips` in device-independent pixels.
 int TwipsToPixels(int twips);
+
+/// What a window holds that is in no file.
+struct UnsavedWork {
+    std::string path;                   ///< Of its file, native; empty where it has none.
+    std::string base;                   ///< Fingerprint of what the window knows of that file.
+    std::uint64_t revision = 0;         ///< Another one after each change of the text.
+    std::function<std::string()> text;  ///< In the window's own form. Asked for at once, or never.
+};
 
 /// Name, place and closing; and the operations that menus and other windows call. An operation that
 /// a window does not have does nothing. What a window shows and does is its own affair.
@@ -55,6 +67,15 @@ class ChildWindow : public QWidget {
     virtual void Load(const std::string& path);
     virtual void Run() {}
 
+    // --- Unsaved work. A window that has any is modified (QWidget::isWindowModified), but for
+    // what is being typed into a part of it.
+
+    /// Nothing where nothing would be lost. Asked for often: takes no time.
+    virtual std::optional<UnsavedWork> Unsaved() const;
+    /// A new window takes unsaved work of an earlier one, and counts as modified. Never fails; what
+    /// no window wrote gives some text or other.
+    virtual void PutBack(const KeptText& kept);
+
     // --- Closing. ---
 
     /// Asks about unsaved work, and saves it when told to. False when the window must stay.
@@ -69,6 +90,10 @@ class ChildWindow : public QWidget {
   protected:
     void showEvent(QShowEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+
+    /// The answer to `question` whether to save: Yes calls `save`, which says whether it did. False
+    /// where everything must stay as it is.
+    bool SaveOrGiveUp(const std::string& question, const std::function<bool()>& save);
 
     Workspace& workspace_;
 

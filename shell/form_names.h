@@ -17,6 +17,7 @@ inline constexpr char kEditReference[] = "frmEdit_Reference";
 inline constexpr char kImportTable[] = "frmImportTable";
 inline constexpr char kExplorer[] = "frmExplorer";
 inline constexpr char kAuthor[] = "frmAuthor";
+inline constexpr char kRecovery[] = "frmRecovery";
 inline constexpr char kReadme[] = "frmReadme";
 inline constexpr char kAbout[] = "frmAbout";
 

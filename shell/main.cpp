@@ -19,6 +19,8 @@
 #include "shell/main_window.h"
 #include "shell/program_icon.h"
 #include "shell/qt_engine_host.h"
+#include "shell/recovery/offer_recovery.h"
+#include "shell/recovery/recovery.h"
 #include "shell/sample_library.h"
 #include "shell/window_kinds.h"
 
@@ -67,9 +69,11 @@ int main(int argc, char* argv[]) {
 
     const ServiceSet services{engine, host, files, profile, dialogs, clipboard, printer, desktop};
 
-    frmMain mainWindow(services, MakeWindowKinds(random));
+    Recovery recovery(StateFolder(), dialogs);
+    frmMain mainWindow(services, MakeWindowKinds(random, &recovery));
     OfferSampleLibrary(services, SharedFolder(executable));
     mainWindow.StartUp();
+    OfferRecovery(mainWindow, recovery);
     if (!document.empty()) {
         mainWindow.OpenDocument(document);
     }

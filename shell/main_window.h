@@ -34,6 +34,9 @@ class frmMain : public QMainWindow, public Workspace {
     /// and scripts run. Other files get a message.
     void OpenDocument(const std::string& path);
 
+    /// Where the child windows are.
+    QMdiArea& Area() { return *mdiArea_; }
+
     // --- Workspace ---
     const ServiceSet& Services() override { return services_; }
     std::string LibraryPath() override;

@@ -46,6 +46,7 @@ constexpr MenuEntry kMenus[] = {
         Window(2, "mnuFile_NewScript", "&New Script", "Ctrl+Shift+N", form::kEdit, &ChildWindow::NewFile),
         Window(2, "mnuView_Edit", "Edit Scrip&t...", "", form::kEdit, &ChildWindow::OpenFile),
       Menu(1, "mnuFile_Recent", "Open &Recent"),
+      Window(1, "mnuFile_Recovery", "&Unsaved Texts", "", form::kRecovery),
       Command(1, "mnuFileSettings", "&Settings", "Ctrl+,", &frmMain::ShowSettings),
       Command(1, "mnuFile_Print", "&Print", "Ctrl+P", &frmMain::Print),
       Command(1, "mnuFile_Export", "&Export", "Ctrl+E", &frmMain::Export),

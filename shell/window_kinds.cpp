@@ -20,6 +20,7 @@
 #include "generators/script_window.h"
 #include "platform/linux/system_random_source.h"
 #include "shell/form_names.h"
+#include "shell/recovery/recovery_window.h"
 
 namespace quenloft {
 namespace {
@@ -39,9 +40,9 @@ auto MakeWith(const std::shared_ptr<Simulation>& simulation) {
 
 }  // namespace
 
-std::vector<WindowKind> MakeWindowKinds(SystemRandomSource& random) {
+std::vector<WindowKind> MakeWindowKinds(SystemRandomSource& random, Recovery* recovery) {
     const auto simulation = std::make_shared<SimulationOn<SystemRandomSource>>(random);
-    return {
+    std::vector<WindowKind> kinds = {
         {form::kExplorer, Instances::One, Make<frmExplorer>},
         {form::kLists, Instances::One, Make<frmLists>},
         {form::kSingleList, Instances::Many, Make<frmListSingle>},
@@ -61,6 +62,12 @@ std::vector<WindowKind> MakeWindowKinds(SystemRandomSource& random) {
         {form::kAbout, Instances::One, Make<frmAbout>},
         {form::kEditReference, Instances::One, Make<frmEdit_Reference>},
     };
+    if (recovery) {
+        kinds.push_back({form::kRecovery, Instances::One, [recovery](Workspace& workspace) {
+                             return new frmRecovery(workspace, *recovery);
+                         }});
+    }
+    return kinds;
 }
 
 }  // namespace quenloft

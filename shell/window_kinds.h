@@ -7,6 +7,7 @@
 namespace quenloft {
 
 class ChildWindow;
+class Recovery;
 class SystemRandomSource;
 class Workspace;
 
@@ -18,7 +19,8 @@ struct WindowKind {
     std::function<ChildWindow*(Workspace&)> make;
 };
 
-/// `random` is what the dice windows roll with; it outlives them.
-std::vector<WindowKind> MakeWindowKinds(SystemRandomSource& random);
+/// `random` is what the dice windows roll with, `recovery` what the recovery window shows; without
+/// it there is no such window. Both outlive the windows.
+std::vector<WindowKind> MakeWindowKinds(SystemRandomSource& random, Recovery* recovery = nullptr);
 
 }  // namespace quenloft

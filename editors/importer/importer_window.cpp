@@ -10,6 +10,7 @@
 #include "shell/document_text.h"
 #include "shell/font_settings.h"
 #include "shell/form_names.h"
+#include "shell/recovery/kept_text.h"
 #include "shell/wait_cursor.h"
 #include "shell/workspace.h"
 #include "ui_importer_window.h"
@@ -108,19 +109,27 @@ void frmImportTable::Load(const std::string& path) {
     Refresh();
 }
 
+std::optional<UnsavedWork> frmImportTable::Unsaved() const {
+    const QTextDocument& document = *ui_->txtOut->document();
+    if (!document.isModified() || (document.isEmpty() && file_.Path().empty())) {
+        return std::nullopt;
+    }
+    return UnsavedWork{file_.Path(), file_.Base(), static_cast<std::uint64_t>(document.revision()),
+                       [&document] { return FromQt(WholeText(document, QLatin1String("\n"))); }};
+}
+
+void frmImportTable::PutBack(const KeptText& kept) {
+    file_.Resume(kept.path, kept.base);
+    ui_->txtOut->SetText(kept.text);
+    ui_->txtOut->document()->setModified(true);
+    // Whether the file is a table made here is not known: as the one that was opened it is kept.
+    holdsLines_ = !kept.path.empty();
+    Refresh();
+}
+
 bool frmImportTable::AskToSave() {
-    if (!ui_->txtOut->document()->isModified()) {
-        return true;
-    }
-    switch (workspace_.Services().dialogs.AskYesNoCancel(SaveQuestion(file_.Path()))) {
-        case Answer::Yes:
-            return Import();
-        case Answer::No:
-            return true;
-        case Answer::Cancel:
-            return false;
-    }
-    return false;
+    return !ui_->txtOut->document()->isModified() ||
+           SaveOrGiveUp(SaveQuestion(file_.Path()), [this] { return Import(); });
 }
 
 bool frmImportTable::eventFilter(QObject* watched, QEvent* event) {

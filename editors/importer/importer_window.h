@@ -26,6 +26,9 @@ class frmImportTable : public ChildWindow {
     void OpenFile() override;
     void NewFile() override;
     void Load(const std::string& path) override;
+    /// The lines with "\n" between them.
+    std::optional<UnsavedWork> Unsaved() const override;
+    void PutBack(const KeptText& kept) override;
     bool AskToSave() override;
 
   protected:

@@ -3,6 +3,7 @@
 #include "editors/shared/text_form.h"
 #include "platform/dialogs.h"
 #include "platform/file_system.h"
+#include "platform/fingerprint.h"
 #include "platform/replacing.h"
 
 namespace quenloft {
@@ -18,16 +19,28 @@ std::string EditedFile::Folder() const {
 
 std::string EditedFile::Read(const std::string& path) {
     files_.LookAgain();
-    std::string bytes = files_.ReadBytes(path);
-    path_ = files_.NativePath(path);
-    bytes_ = std::move(bytes);
-    encoding_ = DetectEncoding(bytes_);
+    Know(path, files_.ReadBytes(path));
+    return TextOfBytes(bytes_);
+}
+
+std::string EditedFile::Resume(const std::string& path, const std::string& base) {
+    Forget();
+    if (path.empty()) {
+        return {};
+    }
+    try {
+        Read(path);
+    } catch (const FileError&) {
+        path_ = files_.NativePath(path);  // Saving makes it again.
+    }
+    base_ = base;
     return TextOfBytes(bytes_);
 }
 
 void EditedFile::Forget() {
     path_.clear();
     bytes_.clear();
+    base_.clear();
     encoding_ = TextEncoding::Windows1252;
 }
 
@@ -58,7 +71,7 @@ bool EditedFile::MayWriteOver(const std::string& path) {
         return MayReplace(files_, dialogs_, path);
     }
     try {
-        return files_.ReadBytes(path) == bytes_ ||
+        return Fingerprint(files_.ReadBytes(path)) == base_ ||
                dialogs_.AskYesNo("The file " + nativePath +
                                  " was changed by another program since it was read. "
                                  "Save over these changes?") == Answer::Yes;
@@ -73,6 +86,13 @@ bool EditedFile::AllowsUtf8(const std::string& path) {
                              "Save it as UTF-8?") == Answer::Yes;
 }
 
+void EditedFile::Know(const std::string& path, std::string bytes) {
+    path_ = files_.NativePath(path);
+    bytes_ = std::move(bytes);
+    base_ = Fingerprint(bytes_);
+    encoding_ = DetectEncoding(bytes_);
+}
+
 bool EditedFile::Write(const std::string& path, std::string bytes, Former former) {
     try {
         if (former == Former::Keep) {
@@ -84,9 +104,7 @@ bool EditedFile::Write(const std::string& path, std::string bytes, Former former
         return false;
     }
     files_.LookAgain();
-    path_ = files_.NativePath(path);
-    bytes_ = std::move(bytes);
-    encoding_ = DetectEncoding(bytes_);
+    Know(path, std::move(bytes));
     return true;
 }
 

@@ -35,6 +35,12 @@ class EditedFile {
     /// Reads `path` and makes it the file of this editor. Returns the lines as UTF-8 with "\n"
     /// between them (see TextOfBytes). Throws FileError; then everything stays as it was.
     std::string Read(const std::string& path);
+    /// Fingerprint of the file's content as it was read or written last; empty without a file.
+    const std::string& Base() const { return base_; }
+    /// Makes `path` the file of a text that an earlier editor had begun with the content `base`; a
+    /// file that holds another content is asked about before it is written over. Returns the lines
+    /// that the file has now, none where it cannot be read. An empty `path` is no file.
+    std::string Resume(const std::string& path, const std::string& base);
     /// From now on the text has no file.
     void Forget();
 
@@ -47,13 +53,15 @@ class EditedFile {
   private:
     bool MayWriteOver(const std::string& path);
     bool AllowsUtf8(const std::string& path);
+    void Know(const std::string& path, std::string bytes);
     bool Write(const std::string& path, std::string bytes, Former former);
     void KeepFormer(const std::string& path);
 
     FileSystem& files_;
     Dialogs& dialogs_;
     std::string path_;
-    std::string bytes_;  // As this editor read or wrote them last.
+    std::string bytes_;  // What the next content takes unchanged lines from.
+    std::string base_;
     TextEncoding encoding_ = TextEncoding::Windows1252;
 };
 

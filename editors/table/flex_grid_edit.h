@@ -37,6 +37,8 @@ class clsFlexGridEdit : public QStyledItemDelegate {
     // --- Operations. ---
 
     bool IsEditing() const { return cell_.isValid(); }
+    /// Invalid when not editing.
+    QModelIndex EditedCell() const { return cell_; }
     /// A text box takes its time over each key by the length of its text: longer ones it does not
     /// get, and it closes over one that has become longer, which is stored.
     static constexpr int kMostLetters = 20000;

@@ -36,6 +36,7 @@ void TableModel::SetContent(TableContent content) {
     beginResetModel();
     previewedRow_ = -1;
     content_ = std::move(content);
+    ++revision_;
     sums_.Replace(0, sums_.Count(), content_.rows);
     undo_.clear();
     endResetModel();
@@ -138,6 +139,7 @@ bool TableModel::setData(const QModelIndex& index, const QVariant& value, int ro
 
 void TableModel::PutField(Field field, const std::string& text) {
     content_.*field = text;
+    ++revision_;
     emit FieldsChanged();
 }
 
@@ -151,6 +153,7 @@ void TableModel::PutRows(RowsEdit& edit) {
         beginRemoveRows({}, first + after, first + before - 1);
     }
     SwapRows(content_.rows, edit);
+    ++revision_;
     sums_.Replace(edit.first, static_cast<std::size_t>(before),
                   std::span(content_.rows).subspan(edit.first, edit.count));
     if (after > before) {
@@ -166,6 +169,7 @@ void TableModel::ShiftRows(int first, int count, int to) {
     const int begin = std::min(first, to);
     const int end = std::max(first, to) + count;
     const auto place = [this](int row) { return content_.rows.begin() + row; };
+    ++revision_;
     std::rotate(place(begin), place(to < first ? first : first + count), place(end));
     const auto start = static_cast<std::size_t>(begin);
     const auto length = static_cast<std::size_t>(end - begin);

@@ -4,6 +4,7 @@
 #include <QAbstractTableModel>
 #include <QIcon>
 #include <QUndoStack>
+#include <cstdint>
 #include <string>
 
 #include "editors/table/table_edits.h"
@@ -27,6 +28,8 @@ class TableModel : public QAbstractTableModel {
     const TableContent& Content() const { return content_; }
     /// With the frequency being typed.
     const WeightSums& Sums() const { return sums_; }
+    /// Another number after each change of the content.
+    std::uint64_t Revision() const { return revision_; }
     /// Clean while the content is the one that was loaded or saved last.
     QUndoStack& Undo() { return undo_; }
 
@@ -77,6 +80,7 @@ class TableModel : public QAbstractTableModel {
     QString MarkText(int row) const;
 
     TableContent content_;
+    std::uint64_t revision_ = 0;
     WeightSums sums_;
     QUndoStack undo_;
     QIcon warning_;

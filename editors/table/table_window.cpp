@@ -11,6 +11,7 @@
 #include "editors/shared/find_bar.h"
 #include "editors/table/cell_text.h"
 #include "editors/table/flex_grid_edit.h"
+#include "editors/table/kept_table.h"
 #include "editors/table/table_grid.h"
 #include "editors/table/table_model.h"
 #include "editors/table/table_reading.h"
@@ -24,6 +25,7 @@
 #include "platform/qt/qt_text.h"
 #include "shell/font_settings.h"
 #include "shell/form_names.h"
+#include "shell/recovery/kept_text.h"
 #include "shell/workspace.h"
 #include "ui_table_window.h"
 
@@ -135,21 +137,33 @@ void frmEdit_Table::Run() {
     }
 }
 
+std::optional<UnsavedWork> frmEdit_Table::Unsaved() const {
+    if (!IsChanged() && !IsTyping()) {
+        return std::nullopt;
+    }
+    const std::uint64_t typed = IsTyping() ? qHash(tbFgEdit_->text()) : 0;
+    constexpr int kHalf = 32;
+    return UnsavedWork{file_.Path(), file_.Base(), (model_->Revision() << kHalf) ^ typed,
+                       [this] { return KeptTable(ContentWithTyped()); }};
+}
+
+void frmEdit_Table::PutBack(const KeptText& kept) {
+    const TableReading inFile = ReadTable(file_.Resume(kept.path, kept.base));
+    leftOut_ = inFile.leftOut;
+    hasEntryWithoutWeight_ = inFile.hasEntryWithoutWeight;
+    model_->SetContent(TableOfKept(kept.text));
+    model_->Undo().resetClean();
+    grdTable_->GoTo(0, kFrequencyColumn);
+    Refresh();
+}
+
 bool frmEdit_Table::AskToSave() {
     grdTable_->CellEditor().CommitAndHide();
     if (!IsChanged()) {
         return true;
     }
     const std::string question = "Table not saved!" + std::string(kLineBreak) + "Save table now?";
-    switch (workspace_.Services().dialogs.AskYesNoCancel(question)) {
-        case Answer::Yes:
-            return Save();
-        case Answer::No:
-            return true;
-        case Answer::Cancel:
-            break;
-    }
-    return false;
+    return SaveOrGiveUp(question, [this] { return Save(); });
 }
 
 bool frmEdit_Table::eventFilter(QObject* watched, QEvent* event) {
@@ -409,6 +423,21 @@ bool frmEdit_Table::AllowsZeros() {
 }
 
 bool frmEdit_Table::IsChanged() const { return !model_->Undo().isClean(); }
+
+bool frmEdit_Table::IsTyping() const {
+    const QModelIndex cell = grdTable_->CellEditor().EditedCell();
+    return cell.isValid() && cell.data(Qt::EditRole).toString() != tbFgEdit_->text();
+}
+
+TableContent frmEdit_Table::ContentWithTyped() const {
+    TableContent content = model_->Content();
+    if (IsTyping()) {
+        const QModelIndex cell = grdTable_->CellEditor().EditedCell();
+        CellText(content.rows[static_cast<std::size_t>(cell.row())], cell.column()) =
+            OneLine(FromQt(tbFgEdit_->text()));
+    }
+    return content;
+}
 
 bool frmEdit_Table::IsGridFocused() const { return focusWidget() == grdTable_; }
 

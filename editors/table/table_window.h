@@ -20,6 +20,7 @@ class frmEdit_Table;
 class TableGrid;
 class TableModel;
 class TableSearch;
+struct TableContent;
 
 /// Brings the file, the fields and the grid together, and asks about unsaved work. What the rows
 /// mean is weight_sums' affair, how they stand in a file table_reading's and table_writing's.
@@ -47,6 +48,9 @@ class frmEdit_Table : public ChildWindow {
     void Load(const std::string& path) override;
     /// Rolls the saved table in a single list, the same one each time while it is open.
     void Run() override;
+    /// As KeptTable gives it, with what is being typed into a cell.
+    std::optional<UnsavedWork> Unsaved() const override;
+    void PutBack(const KeptText& kept) override;
     bool AskToSave() override;
 
   protected:
@@ -76,6 +80,9 @@ class frmEdit_Table : public ChildWindow {
     /// Whether entries that the grid turns into lines of others may become that.
     bool AllowsZeros();
     bool IsChanged() const;
+    /// The cell's text was changed and not stored yet.
+    bool IsTyping() const;
+    TableContent ContentWithTyped() const;
     bool IsGridFocused() const;
     /// Whether a key that a text box would take undoes or redoes a step of the table: the boxes
     /// outside the grid have no history of their own, the cell's has while it is being typed in.

@@ -20,6 +20,7 @@
 #include "platform/qt/qt_text.h"
 #include "shell/font_settings.h"
 #include "shell/form_names.h"
+#include "shell/recovery/kept_text.h"
 #include "shell/wait_cursor.h"
 #include "shell/workspace.h"
 #include "ui_text_window.h"
@@ -124,13 +125,28 @@ void frmEdit::Run() {
     }
 }
 
+std::optional<UnsavedWork> frmEdit::Unsaved() const {
+    const QTextDocument& document = *ui_->txtOut->document();
+    if (!document.isModified() || (document.isEmpty() && file_.Path().empty())) {
+        return std::nullopt;
+    }
+    return UnsavedWork{file_.Path(), file_.Base(), static_cast<std::uint64_t>(document.revision()),
+                       [this] { return ui_->txtOut->Lines(); }};
+}
+
+void frmEdit::PutBack(const KeptText& kept) {
+    file_.Resume(kept.path, kept.base);
+    ui_->txtOut->SetText(kept.text);
+    ui_->txtOut->document()->setModified(true);
+    Refresh();
+}
+
 bool frmEdit::AskToSave() {
     if (!ui_->txtOut->document()->isModified()) {
         return true;
     }
     BringToFront(*this);
-    const Answer answer = workspace_.Services().dialogs.AskYesNoCancel(kSaveBeforeClosing);
-    return answer == Answer::No || (answer == Answer::Yes && Save());
+    return SaveOrGiveUp(kSaveBeforeClosing, [this] { return Save(); });
 }
 
 bool frmEdit::Save() { return file_.Path().empty() ? SaveAs() : SaveTo(file_.Path()); }
@@ -285,13 +301,9 @@ bool frmEdit::IsPristine() const {
 }
 
 bool frmEdit::IsSavedToRun() {
-    if (ui_->txtOut->document()->isModified()) {
-        const Answer answer = workspace_.Services().dialogs.AskYesNoCancel(kSaveBeforeClosing);
-        if (answer == Answer::Cancel || (answer == Answer::Yes && !Save())) {
-            return false;
-        }
-    }
-    return !file_.Path().empty();
+    const bool isModified = ui_->txtOut->document()->isModified();
+    return (!isModified || SaveOrGiveUp(kSaveBeforeClosing, [this] { return Save(); })) &&
+           !file_.Path().empty();
 }
 
 ChildWindow* frmEdit::OpenRunner() {

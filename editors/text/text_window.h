@@ -40,6 +40,9 @@ class frmEdit : public ChildWindow {
     void Load(const std::string& path) override;
     /// Runs the saved file, in the same window each time while that is open.
     void Run() override;
+    /// The text with "\n" between its lines.
+    std::optional<UnsavedWork> Unsaved() const override;
+    void PutBack(const KeptText& kept) override;
     bool AskToSave() override;
 
   private:

@@ -171,11 +171,11 @@ void FlushFolder(const std::string& folder, const std::string& path) {
 
 }  // namespace
 
-void WriteFileAtomically(const std::string& nativePath, std::string_view bytes) {
+void WriteFileAtomically(const std::string& nativePath, std::string_view bytes, mode_t newMode) {
     const std::string place = FollowLinks(nativePath);
     const std::string folder = FolderOf(place);
     const std::optional<struct stat> old = LookAtOldFile(place, nativePath);
-    TemporaryFile file(folder, old ? S_IRUSR | S_IWUSR : 0666);
+    TemporaryFile file(folder, old ? S_IRUSR | S_IWUSR : newMode);
     if (!file.IsOpen() || !file.Write(bytes)) {
         Fail(nativePath);
     }

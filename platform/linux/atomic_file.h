@@ -3,6 +3,7 @@
 
 #include <string>
 #include <string_view>
+#include <sys/types.h>
 
 namespace quenloft {
 
@@ -10,6 +11,8 @@ namespace quenloft {
 /// stays one: its target is replaced. Permissions are kept, owner and group where the system lets
 /// them be. Throws FileError whose sentence names the file and the system's reason; no temporary
 /// file is left behind then, and unless only the folder's own flush failed the old file is intact.
-void WriteFileAtomically(const std::string& nativePath, std::string_view bytes);
+/// A file that is new gets the permissions `newMode`, less the user's mask.
+void WriteFileAtomically(const std::string& nativePath, std::string_view bytes,
+                         mode_t newMode = 0666);
 
 }  // namespace quenloft

@@ -1,5 +1,6 @@
 #include "platform/linux/program_folders.h"
 
+#include <cstdlib>
 #include <filesystem>
 #include <system_error>
 
@@ -16,6 +17,20 @@ std::string SharedFolder(const std::string& executablePath) {
     const bool isInstalled =
         folder.filename() == "bin" && std::filesystem::is_directory(shared, error);
     return isInstalled ? shared.string() : std::string();
+}
+
+std::string StateFolder() {
+    const auto variable = [](const char* name) {
+        const char* value = std::getenv(name);
+        return std::string(value ? value : "");
+    };
+    // A relative path is to be ignored there.
+    std::string states = variable("XDG_STATE_HOME");
+    if (!states.starts_with('/')) {
+        const std::string home = variable("HOME");
+        states = home.starts_with('/') ? home + "/.local/state" : "";
+    }
+    return states.empty() ? states : states + "/quenloft";
 }
 
 }  // namespace quenloft

@@ -59,6 +59,11 @@ class AuthorWindowTest : public WindowsFixture {
         return empty.Text().paragraphs.front().endFormat;
     }
     std::string Plain() const { return box->toPlainText().toStdString(); }
+    /// With the mark of change.
+    std::string Title() const {
+        const QString mark = author->isWindowModified() ? "*" : "";
+        return author->windowTitle().replace("[*]", mark).toStdString();
+    }
     bool IsChecked(const char* name) { return author->findChild<QToolButton*>(name)->isChecked(); }
 
     frmMain window{Services(), {{form::kAuthor, Instances::Many, [](Workspace& workspace) {
@@ -69,17 +74,17 @@ class AuthorWindowTest : public WindowsFixture {
 };
 
 TEST_F(AuthorWindowTest, NotesAreSavedAndOpenedAgain) {
-    EXPECT_EQ(author->windowTitle(), "Author Area");
+    EXPECT_EQ(Title(), "Author Area");
     Type("a");
-    EXPECT_EQ(author->windowTitle(), "Author Area*");
+    EXPECT_EQ(Title(), "Author Area*");
     dialogs.WillGive(folder.Path("new.rtf"));
     Click("btnSave");
     EXPECT_EQ(dialogs.TakeLog(), Log{std::string("save: ") + kFilter + " at " + folder.Path()});
-    EXPECT_EQ(author->windowTitle(), "Author Area new.rtf");
+    EXPECT_EQ(Title(), "Author Area new.rtf");
     QTest::keyClick(box, Qt::Key_B, Qt::ControlModifier);
     Type("b");
     QTest::keyClick(box, Qt::Key_S, Qt::ControlModifier);
-    EXPECT_EQ(author->windowTitle(), "Author Area new.rtf");
+    EXPECT_EQ(Title(), "Author Area new.rtf");
     EXPECT_EQ(folder.Read("new.rtf"), WriteRtf(box->Text()));
 
     dialogs.WillGive(folder.Path("notes.rtf"));
@@ -143,14 +148,14 @@ TEST_F(AuthorWindowTest, CancellingLeavesTextAndMarkAsTheyWere) {
     dialogs.WillCancel();
     Click("btnOpen");
     EXPECT_EQ(Plain(), "x");
-    EXPECT_EQ(author->windowTitle(), "Author Area*");
+    EXPECT_EQ(Title(), "Author Area*");
     dialogs.WillAnswer(Answer::No);
     dialogs.WillGive(folder.Path("none.rtf"));
     dialogs.WillConfirm();
     Click("btnOpen");
     EXPECT_EQ(dialogs.TakeLog().back(),
               "warning: File not found: " + folder.Path("none.rtf") + ".");
-    EXPECT_EQ(author->windowTitle(), "Author Area*");
+    EXPECT_EQ(Title(), "Author Area*");
     dialogs.WillAnswer(Answer::Cancel);
     EXPECT_FALSE(author->AskToSave());
 }
@@ -180,7 +185,7 @@ TEST_F(AuthorWindowTest, AsksBeforeASaveDestroysSomething) {
         Click("btnSave");
         EXPECT_EQ(dialogs.TakeLog(), Log{"yes or no: The file " + path + c.question});
         EXPECT_EQ(folder.Read("asked.rtf"), onDisk);
-        EXPECT_EQ(author->windowTitle(), "Author Area asked.rtf*");
+        EXPECT_EQ(Title(), "Author Area asked.rtf*");
         dialogs.WillAnswer(Answer::Yes);
         Click("btnSave");
         Type("y");

@@ -1,0 +1,83 @@
+#include "shell/recovery/recovery_writer.h"
+
+#include <utility>
+#include <vector>
+
+#include "platform/file_system.h"
+#include "shell/recovery/left_texts.h"
+
+namespace quenloft {
+
+RecoveryWriter::RecoveryWriter(std::string parent, std::function<void(const std::string&)> failed)
+    : folder_(std::move(parent)),
+      failed_(std::move(failed)),
+      thread_([this](const std::stop_token& stop) { Work(stop); }) {}
+
+RecoveryWriter::~RecoveryWriter() = default;
+
+void RecoveryWriter::Keep(int number, KeptText kept) {
+    const std::scoped_lock lock(mutex_);
+    waiting_[number] = std::move(kept);
+    changed_.notify_all();
+}
+
+void RecoveryWriter::Remove(int number) {
+    const std::scoped_lock lock(mutex_);
+    waiting_[number].reset();
+    changed_.notify_all();
+}
+
+void RecoveryWriter::Replace(int number, const std::string& leftFile) {
+    const std::scoped_lock lock(mutex_);
+    replaced_.emplace(number, leftFile);
+}
+
+void RecoveryWriter::Wait() {
+    std::unique_lock lock(mutex_);
+    changed_.wait(lock, [this] { return waiting_.empty() && !isBusy_; });
+}
+
+void RecoveryWriter::Work(const std::stop_token& stop) {
+    std::unique_lock lock(mutex_);
+    // What waits at the end is done too: a left text may have to go.
+    while (changed_.wait(lock, stop, [this] { return !waiting_.empty(); })) {
+        const Tasks tasks = std::exchange(waiting_, {});
+        isBusy_ = true;
+        lock.unlock();
+        for (const auto& [number, kept] : tasks) {
+            Do(number, kept);
+        }
+        lock.lock();
+        isBusy_ = false;
+        changed_.notify_all();
+    }
+}
+
+void RecoveryWriter::Do(int number, const std::optional<KeptText>& kept) {
+    try {
+        if (kept) {
+            folder_.Keep(number, *kept);
+        } else {
+            folder_.Remove(number);
+        }
+    } catch (const FileError& error) {
+        if (!std::exchange(hasFailed_, true)) {
+            failed_(error.what());
+        }
+        return;
+    }
+    std::vector<std::string> replaced;
+    {
+        const std::scoped_lock lock(mutex_);
+        const auto [first, last] = replaced_.equal_range(number);
+        for (auto left = first; left != last; ++left) {
+            replaced.push_back(left->second);
+        }
+        replaced_.erase(first, last);
+    }
+    for (const std::string& file : replaced) {
+        DeleteLeftText(file);
+    }
+}
+
+}  // namespace quenloft
