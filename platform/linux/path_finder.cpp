@@ -1,5 +1,6 @@
 #include "platform/linux/path_finder.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <utility>
 
@@ -17,6 +18,9 @@ void AppendNames(Place& place, const PathParts& parts, std::size_t firstName) {
         place.diskPath = JoinPath(place.diskPath, DecodeText(parts.names[i]));
     }
 }
+
+/// For the system the name would end in its middle.
+bool IsImpossible(std::string_view name) { return name.find('\0') != std::string_view::npos; }
 
 Place MissingPlace(std::string diskPath, int error) {
     Place place;
@@ -91,8 +95,8 @@ bool PathFinder::StillHolds(Place& place) {
 
 Place PathFinder::Resolve(FolderId base, std::string_view path) {
     const PathParts parts = SplitPath(path);
-    if (parts.drive != kRootDrive || path.find('\0') != std::string_view::npos) {
-        Place place = MissingPlace("/", parts.drive != kRootDrive ? ENOTDIR : ENOENT);
+    if (parts.drive != kRootDrive) {
+        Place place = MissingPlace("/", ENOTDIR);
         place.drive = parts.drive;
         AppendNames(place, parts, 0);
         return place;
@@ -100,6 +104,11 @@ Place PathFinder::Resolve(FolderId base, std::string_view path) {
     FolderId folder = parts.isFromRoot ? 0 : base;
     for (std::size_t i = 0; i < parts.climbs && folder != 0; ++i) {
         folder = NumberOf(ParentPath(folders_[folder].diskPath));
+    }
+    if (std::any_of(parts.names.begin(), parts.names.end(), IsImpossible)) {
+        Place place = MissingPlace(folders_[folder].diskPath, ENOENT);
+        AppendNames(place, parts, 0);
+        return place;
     }
     Place place = ResolveNames(folder, parts);
     if (place.IsFolder()) {
