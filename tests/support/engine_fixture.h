@@ -27,10 +27,7 @@ class EngineFixture : public testing::Test {
     }
     /// A table of one entry.
     void WriteTable(std::string_view name, const std::string& entry) {
-        folder.Write(name,
-                     "T\xC2\xA4"
-                     "1\n\n1\xC2\xA7" +
-                         entry + "\n");
+        folder.WriteTable(name, "T", entry);
     }
 
     TempFolder folder;

@@ -12,6 +12,8 @@
 
 namespace quenloft {
 
+using Log = std::vector<std::string>;
+
 /// A dialog that no answer was prepared for is a failure, and so is an answer that nothing asked
 /// for.
 class FakeDialogs : public Dialogs {
@@ -26,7 +28,7 @@ class FakeDialogs : public Dialogs {
     void WillChoose(FontChoice font) { answers_.emplace_back(std::move(font)); }
 
     /// What the dialogs since the last call showed, each as "kind: text".
-    std::vector<std::string> TakeLog() { return std::exchange(log_, {}); }
+    Log TakeLog() { return std::exchange(log_, {}); }
 
     void ShowMessage(const std::string& text, MessageIcon icon) override {
         const char* kinds[] = {"message: ", "information: ", "warning: "};
@@ -79,7 +81,7 @@ class FakeDialogs : public Dialogs {
     }
 
     std::deque<Reply> answers_;
-    std::vector<std::string> log_;
+    Log log_;
 };
 
 }  // namespace quenloft

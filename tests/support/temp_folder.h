@@ -12,6 +12,12 @@
 
 namespace quenloft {
 
+/// The text with its ¤ and § as single bytes, as old table files hold them.
+inline std::string InCodePage(std::string text) {
+    std::erase(text, '\xC2');
+    return text;
+}
+
 class TempFolder {
   public:
     TempFolder() {
@@ -55,6 +61,11 @@ class TempFolder {
             throw std::runtime_error(file.string() + " could not be written");
         }
         return file.string();
+    }
+    /// Writes a table of one entry. Returns the native path.
+    std::string WriteTable(std::string_view name, const std::string& title,
+                           const std::string& entry) const {
+        return Write(name, InCodePage(title + "¤1\r\n\r\n1§" + entry + "\r\n"));
     }
     /// All bytes of a file, as they are.
     std::string Read(std::string_view name) const {
