@@ -1,10 +1,9 @@
 // The table importer: from lines to a table, and the way of the file.
-#include <QPushButton>
+
+#include <functional>
 
 #include "editors/importer/import_text.h"
 #include "editors/importer/importer_window.h"
-#include "shell/form_names.h"
-#include "shell/text_box.h"
 #include "tests/support/windows_fixture.h"
 
 namespace quenloft {
@@ -37,10 +36,9 @@ class ImporterTest : public WindowsFixture {
         text = importer->findChild<TextBox*>("txtOut");
     }
     static std::vector<WindowKind> Kinds() {
-        return {{form::kImportTable, Instances::Many,
-                 [](Workspace& workspace) { return new frmImportTable(workspace); }}};
+        return {{form::kImportTable, Instances::Many, Make<frmImportTable>}};
     }
-    void Click(const char* name) { importer->findChild<QPushButton*>(name)->click(); }
+    void Click(const char* name) { WindowsFixture::Click(*importer, name); }
     void Type(const QString& lines) {
         text->moveCursor(QTextCursor::End);
         text->insertPlainText(lines);
@@ -67,12 +65,9 @@ TEST_F(ImporterTest, ATypedListBecomesATable) {
     dialogs.WillGive(folder.Path("loot.tbl"));
     dialogs.WillGive("Loot");
     Click("btnSave");
-    EXPECT_EQ(dialogs.TakeLog(),
-              (std::vector<std::string>{"save: " + kFilter + " at " + folder.Path(),
-                                        "text: Enter table name [] titled Table Import"}));
-    EXPECT_EQ(folder.Read("loot.tbl"),
-              "Loot\xA4"
-              "3\r\n\r\n1\xA7sword\r\n2\xA7shield");
+    EXPECT_EQ(dialogs.TakeLog(), (Log{"save: " + kFilter + " at " + folder.Path(),
+                                      "text: Enter table name [] titled Table Import"}));
+    EXPECT_EQ(folder.Read("loot.tbl"), InCodePage("Loot¤3\r\n\r\n1§sword\r\n2§shield"));
     EXPECT_EQ(Caption(), "Table Importer ..\\loot.tbl");
     Type("bow\n");
     EXPECT_EQ(Caption(), "Table Importer ..\\loot.tbl*");
@@ -80,9 +75,7 @@ TEST_F(ImporterTest, ATypedListBecomesATable) {
     EXPECT_EQ(Caption(), "Table Importer ..\\loot.tbl");
     dialogs.WillCancel();
     Click("btnSave");
-    EXPECT_EQ(folder.Read("loot.tbl"),
-              "\xA4"
-              "3\r\n\r\n1\xA7sword\r\n2\xA7shield");
+    EXPECT_EQ(folder.Read("loot.tbl"), InCodePage("¤3\r\n\r\n1§sword\r\n2§shield"));
 }
 
 TEST_F(ImporterTest, AnOpenedFileStaysBesideItsTable) {
@@ -96,9 +89,7 @@ TEST_F(ImporterTest, AnOpenedFileStaysBesideItsTable) {
         dialogs.WillGive(title);
         Click("btnSave");
         EXPECT_EQ(folder.Read("list[*].txt"),
-                  title + std::string("\xA4"
-                                      "4\r\n\r\n1\xA7sw\xF6rd\r\n2\xA7\r\n3\xA7"
-                                      "bow"));
+                  InCodePage(title + std::string("¤4\r\n\r\n1§sw\xF6rd\r\n2§\r\n3§bow")));
     }
     EXPECT_EQ(folder.Read("list[*].txt~"), "sw\xF6rd\n\nbow")
         << "what was opened, not the first try";
@@ -106,41 +97,39 @@ TEST_F(ImporterTest, AnOpenedFileStaysBesideItsTable) {
 
 TEST_F(ImporterTest, NothingLeavesUnasked) {
     Type("sword\n");
-    dialogs.WillAnswer(Answer::Cancel);
-    importer->CloseWindow();
-    dialogs.WillAnswer(Answer::Cancel);
-    Click("btnNew");
-    dialogs.WillAnswer(Answer::Cancel);
-    Click("btnOpen");
-    dialogs.WillAnswer(Answer::Yes);
-    dialogs.WillCancel();
-    importer->CloseWindow();
-    EXPECT_EQ(text->Text(), "sword\r\n");
-    EXPECT_EQ(Caption(), "Table Importer*");
-    EXPECT_TRUE(importer->isVisible());
-    EXPECT_EQ(dialogs.TakeLog().front(),
-              "yes, no or cancel: Do You want to save the text as a table ?");
+    const std::function<void()> waysOut[] = {[this] { importer->CloseWindow(); },
+                                             [this] { Click("btnNew"); },
+                                             [this] { Click("btnOpen"); }};
+    for (const auto& leave : waysOut) {
+        dialogs.WillAnswer(Answer::Cancel);
+        leave();
+        dialogs.WillAnswer(Answer::Yes);
+        dialogs.WillCancel();
+        leave();
+        EXPECT_EQ(dialogs.TakeLog().front(),
+                  "yes, no or cancel: Do You want to save the text as a table ?");
+        EXPECT_EQ(text->Text(), "sword\r\n");
+        EXPECT_EQ(Caption(), "Table Importer*");
+        EXPECT_TRUE(importer->isVisible());
+    }
 }
 
 TEST_F(ImporterTest, NewAsksAboutTheFileAndCanBeUndone) {
     const std::string path = folder.Write("a.txt", "a\nb\n");
     importer->Load(path);
-    dialogs.WillAnswer(Answer::Cancel);
-    Click("btnNew");
-    EXPECT_EQ(dialogs.TakeLog().size(), 1U);
-    EXPECT_EQ(text->Text(), "a\r\nb\r\n") << "the question was dismissed";
-    dialogs.WillAnswer(Answer::No);
-    Click("btnNew");
-    EXPECT_EQ(dialogs.TakeLog(),
-              std::vector<std::string>{"yes or no: Do You want to save file " + path + " ?"});
+    for (const Answer answer : {Answer::Cancel, Answer::No}) {
+        EXPECT_EQ(text->Text(), "a\r\nb\r\n");
+        dialogs.WillAnswer(answer);
+        Click("btnNew");
+        EXPECT_EQ(dialogs.TakeLog(), Log{"yes or no: Do You want to save file " + path + " ?"});
+    }
     EXPECT_EQ(text->Text(), "");
     EXPECT_EQ(Caption(), "Table Importer");
     text->undo();
     EXPECT_EQ(text->Text(), "a\r\nb\r\n");
     EXPECT_EQ(Caption(), "Table Importer*");
     EXPECT_EQ(folder.Read("a.txt"), "a\nb\n");
-    dialogs.WillAnswer(Answer::No);
-    EXPECT_TRUE(importer->AskToSave());
+    importer->CloseUnasked();
 }
 
 TEST_F(ImporterTest, AFileThatCannotBeReadOrWrittenChangesNothing) {
@@ -160,23 +149,18 @@ TEST_F(ImporterTest, AFileThatCannotBeReadOrWrittenChangesNothing) {
 }
 
 TEST_F(ImporterTest, SaysWhichLastLineBecomesNoEntry) {
-    const auto* hint = importer->findChild<QLabel*>("lblHint");
     const std::string longLine(10'000, 'x');
-    const struct {
-        std::string text;
-        const char* hint;
-    } cases[] = {
+    const std::string single = "A single line becomes an entry when Enter ends it.";
+    const std::pair<std::string, std::string> cases[] = {
         {"", ""},
-        {"sword", "A single line becomes an entry when Enter ends it."},
-        {longLine, "A single line becomes an entry when Enter ends it."},
+        {longLine, single},
         {"sword\n", ""},
         {"sword\nb", "A last line of one character becomes an entry when Enter ends it."},
-        {"sword\nbow", ""},
         {"sword\n" + longLine, ""},
     };
-    for (const auto& c : cases) {
-        text->SetText(c.text);
-        EXPECT_EQ(hint->text(), c.hint) << c.text.substr(0, 20);
+    for (const auto& [lines, hint] : cases) {
+        text->SetText(lines);
+        EXPECT_EQ(importer->findChild<QLabel*>("lblHint")->text().toStdString(), hint);
     }
 }
 

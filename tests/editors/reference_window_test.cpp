@@ -1,10 +1,7 @@
 // The reference browser as an editor uses it.
 #include <QCheckBox>
 #include <QDialog>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QRadioButton>
-#include <QTimer>
 #include <QTreeView>
 
 #include "editors/reference/choose_reference.h"
@@ -16,19 +13,11 @@ namespace {
 class ReferenceWindowTest : public WindowsFixture {
   protected:
     ReferenceWindowTest() {
-        folder.Write("lib/Tables/orcs.tbl",
-                     "Orcs\xA4"
-                     "1\r\n");
-        folder.Write("lib/Tables/elves.tbl",
-                     "Folk of the woods\xA4"
-                     "1\r\n");
+        folder.WriteTable("lib/Tables/orcs.tbl", "Orcs", "x");
+        folder.WriteTable("lib/Tables/elves.tbl", "Folk of the woods", "x");
         folder.Write("lib/Tables/Deep/x.spt", "");
-        folder.Write("lib/Monsters/orcs.tbl",
-                     "Orcs\xA4"
-                     "1\r\n");
-        folder.Write("lib/Monsters/~hidden.tbl",
-                     "Hidden\xA4"
-                     "1\r\n");
+        folder.WriteTable("lib/Monsters/orcs.tbl", "Orcs", "x");
+        folder.WriteTable("lib/Monsters/~hidden.tbl", "Hidden", "x");
         ShowMainWindow(window);
     }
 
@@ -142,9 +131,8 @@ TEST_F(ReferenceWindowTest, StaysOnItsDrive) {
         Click("btnCancel");
     };
     EXPECT_EQ(Choose(steps, "../../../.."), "");
-    EXPECT_EQ(dialogs.TakeLog(),
-              std::vector<std::string>{"warning: To keep reference integrity is not browsing for "
-                                       "reference on other drives allowed!"});
+    EXPECT_EQ(dialogs.TakeLog(), Log{"warning: To keep reference integrity is not browsing for "
+                                     "reference on other drives allowed!"});
 }
 
 TEST_F(ReferenceWindowTest, SaysThatAFolderAboveCannotBeShown) {
@@ -161,8 +149,7 @@ TEST_F(ReferenceWindowTest, SaysThatAFolderAboveCannotBeShown) {
                   },
                   "gone/sub"),
               "");
-    EXPECT_EQ(dialogs.TakeLog(),
-              std::vector<std::string>{"warning: Failure in displaying folder content!"});
+    EXPECT_EQ(dialogs.TakeLog(), Log{"warning: Failure in displaying folder content!"});
 }
 
 }  // namespace

@@ -1,8 +1,6 @@
 // The insert toolbox: its marks, where they go, and its memory.
 #include <QComboBox>
 #include <QContextMenuEvent>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QTableWidget>
 #include <QTextEdit>
 
@@ -10,7 +8,6 @@
 #include "editors/toolbox/toolbox_window.h"
 #include "engine/failure.h"
 #include "shell/elided_widgets.h"
-#include "shell/form_names.h"
 #include "tests/support/recording_window.h"
 #include "tests/support/windows_fixture.h"
 
@@ -32,19 +29,15 @@ TEST(ToolboxText, WritesMarksToTheLetter) {
 class ToolboxTest : public WindowsFixture {
   protected:
     ToolboxTest() {
-        for (const char* name : {"deep/er/loot.tbl", "deep/Orcs.v2.tbl"}) {
-            folder.Write(std::string("lib/") + name, std::string("Title of ") + name +
-                                                         "\xA4"
-                                                         "1");
-        }
+        folder.WriteTable("lib/deep/er/loot.tbl", "Loot!", "x");
+        folder.WriteTable("lib/deep/Orcs.v2.tbl", "Orcs!", "x");
         folder.Write("quenloft.INI", "[Settings]\r\nLibpath=" + folder.Path("lib") + "\r\n");
         ShowMainWindow(window);
         editor = static_cast<RecordingWindow*>(window.Open(form::kEdit));
         toolbox = window.Open(form::kEditReference);
     }
     static std::vector<WindowKind> Kinds() {
-        return {{form::kEditReference, Instances::One,
-                 [](Workspace& workspace) { return new frmEdit_Reference(workspace); }},
+        return {{form::kEditReference, Instances::One, Make<frmEdit_Reference>},
                 {form::kEdit, Instances::Many,
                  [](Workspace& workspace) { return new RecordingWindow(workspace, form::kEdit); }}};
     }
@@ -70,11 +63,6 @@ class ToolboxTest : public WindowsFixture {
         dialogs.WillGive(folder.Path(file));
         AskForMenu(*Get<TitleButton>("btnQuicklList_" + std::to_string(index)),
                    QContextMenuEvent::Keyboard);
-    }
-    void Reopen() {
-        toolbox->CloseWindow();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        toolbox = window.Open(form::kEditReference);
     }
 
     frmMain window{Services(), Kinds()};
@@ -152,9 +140,8 @@ TEST_F(ToolboxTest, WritesATypedOrChosenReference) {
     Click("btnSendReference");
     EXPECT_EQ(editor->txtOut->Text(), "#orcs^3#");
     EXPECT_EQ(dialogs.TakeLog(),
-              (std::vector<std::string>{
-                  "open: Table(*.tbl)|*.tbl|All files (*.*)|*.* in " + folder.Path(),
-                  "warning: Overflow"}));
+              (Log{"open: Table(*.tbl)|*.tbl|All files (*.*)|*.* in " + folder.Path(),
+                   "warning: Overflow"}));
 }
 
 TEST_F(ToolboxTest, RemembersItsQuickTables) {
@@ -162,15 +149,15 @@ TEST_F(ToolboxTest, RemembersItsQuickTables) {
     Click("btnQuicklList_9");
     Bind(0, "lib/deep/er/loot.tbl");
     Bind(9, "lib/deep/Orcs.v2.tbl");
-    folder.Write("elsewhere/gems.tbl",
-                 "Gems\xA4"
-                 "1");
+    folder.WriteTable("elsewhere/gems.tbl", "Gems", "x");
     Bind(4, "elsewhere/gems.tbl");
     EXPECT_EQ(CaptionOf(4), "Gems");
-    Reopen();
-    EXPECT_EQ(CaptionOf(0), "Title of deep/er/loot.tbl");
+    toolbox->CloseWindow();
+    LetWindowsClose();
+    toolbox = window.Open(form::kEditReference);
+    EXPECT_EQ(CaptionOf(0), "Loot!");
     EXPECT_EQ(CaptionOf(4), "gems") << "nobody knows where";
-    EXPECT_EQ(CaptionOf(9), "Title of deep/Orcs.v2.tbl");
+    EXPECT_EQ(CaptionOf(9), "Orcs!");
     EXPECT_EQ(folder.Read("quenloft.INI"),
               "[Settings]\r\nLibpath=" + folder.Path("lib") +
                   "\r\n[Toolbox]\r\nQuickTable0=loot\r\nQuickTable4=gems\r\nQuickTable9=Orcs\r\n");
@@ -180,7 +167,7 @@ TEST_F(ToolboxTest, RemembersItsQuickTables) {
     EXPECT_EQ(editor->txtOut->Text(), "#Orcs#");
     dialogs.WillCancel();
     AskForMenu(*Get<TitleButton>("btnQuicklList_9"), QContextMenuEvent::Mouse);
-    EXPECT_EQ(CaptionOf(9), "Title of deep/Orcs.v2.tbl");
+    EXPECT_EQ(CaptionOf(9), "Orcs!");
 }
 
 }  // namespace
