@@ -1,6 +1,5 @@
 #include "generators/script_place.h"
 
-#include "generators/export_text.h"
 #include "tests/support/engine_fixture.h"
 
 namespace quenloft {
@@ -53,16 +52,6 @@ TEST_F(ScriptPlaceTest, AFailedRunNamesFileAndLine) {
                         "\r\nLine :2\r\nError description :Missing ) in '1+(2'\r\n"
                         "Current Directory :" +
                         folder.LibraryPath("lib"));
-}
-
-TEST(ExportText, IsToTheLetter) {
-    EXPECT_EQ(TableExportText("Orcs", "An orc.\r\nAngry.", "/lib/orcs.tbl", "Quenloft 1.0.0",
-                              "2026-11-21 20:15:00"),
-              "Table : Orcs\r\nResult :\r\nAn orc.\r\nAngry.\r\n\r\nFilename : /lib/orcs.tbl\r\n"
-              "Printed by Quenloft 1.0.0 2026-11-21 20:15:00");
-    EXPECT_EQ(ScriptExportText("A village.", "v.spt", "Quenloft 1.0.0", "2026-11-21 20:15:00"),
-              "A village.\r\n\r\nFilename : v.spt\r\n"
-              "Printed by Quenloft 1.0.0 2026-11-21 20:15:00");
 }
 
 }  // namespace

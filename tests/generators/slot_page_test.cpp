@@ -21,10 +21,7 @@ class SlotPageTest : public EngineFixture {
         return titles;
     }
     void WriteTitled(std::string_view name, const std::string& title) {
-        folder.Write(name, title +
-                               "\xA4"
-                               "1\r\n\r\n1\xA7"
-                               "one\r\n");
+        folder.WriteTable(name, title, "one");
     }
 
     LinuxProfileFile profile{files, folder.Path() + "/quenloft", folder.Path() + "/config"};
@@ -91,11 +88,6 @@ TEST_F(SlotPageTest, AFileNewerThanTheLastLookIsFound) {
     EXPECT_FALSE(files.FileExists(folder.Path("lib/new.tbl")));
     WriteTitled("lib/new.tbl", "New");
     EXPECT_EQ(BindTable(engine, folder.Path("LIB/NEW.tbl")).title, "New");
-}
-
-TEST_F(SlotPageTest, AFileThatIsNoTableSaysSoInItsTitle) {
-    folder.Write("notes.txt", "Nothing to roll.\r\n");
-    EXPECT_EQ(BindTable(engine, folder.Path("notes.txt")).title, "!Invalid fileheader!");
 }
 
 TEST_F(SlotPageTest, RollingForgetsTheVariablesOfOtherRunsAndEntersTheSlotsFolder) {
