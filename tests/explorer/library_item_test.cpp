@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "explorer/explorer_text.h"
-
 namespace quenloft {
 namespace {
 
@@ -34,12 +32,9 @@ TEST(LibraryItem, LabelsTablesWithTheirTitleOnOneLine) {
         std::string label;
     } cases[] = {
         {"Dragons ", "Dragons "},
-        {"!Invalid fileheader!", "!Invalid fileheader!"},
-        {"", "a"},
         {"   ", "a"},
         {std::string("tab\there\0nul", 12), "tab here nul"},
         {std::string(300, 'x'), std::string(200, 'x') + "…"},
-        {"\xC3\xA9t\xC3\xA9", "\xC3\xA9t\xC3\xA9"},
     };
     for (const auto& c : cases) {
         EXPECT_EQ(LabelOfTable(c.title, "a.b.tbl"), c.label);
@@ -58,13 +53,6 @@ TEST(LibraryItem, SortsByLabelWithoutRegardToCase) {
     }
     EXPECT_EQ(labels, (std::vector<std::string>{"Alpha", "alpha", "beta", "Gamma", "\xC3\x89tage",
                                                 "\xC3\xA9toile"}));
-}
-
-TEST(ExplorerText, ReadsAsUsersKnowIt) {
-    EXPECT_EQ(ExportText("A dragon.", "/lib/a.tbl", "Quenloft 1.0.7", "2026-11-21"),
-              "A dragon.\r\n\r\nFilename : /lib/a.tbl\r\nPrinted by Quenloft 1.0.7 2026-11-21");
-    EXPECT_EQ(DeleteQuestion("Dragons", "/lib/a.tbl"),
-              "Do You really want to delete Dragons (/lib/a.tbl)?");
 }
 
 }  // namespace

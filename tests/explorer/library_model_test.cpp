@@ -66,10 +66,8 @@ TEST_F(LibraryModelTest, SortsFoldersTablesAndScriptsTogether) {
 }
 
 TEST_F(LibraryModelTest, TheTopLevelIsThereAtOnceWhateverTheSizeOfTheLibrary) {
-    for (int i = 0; i < 50; ++i) {
-        for (int j = 0; j < 10; ++j) {
-            folder.Write("lib/folder" + std::to_string(i) + "/" + std::to_string(j) + ".tbl", "");
-        }
+    for (int i = 0; i < 500; ++i) {
+        folder.Write("lib/folder" + std::to_string(i / 10) + "/" + std::to_string(i) + ".tbl", "");
     }
     Load();
     EXPECT_EQ(model.rowCount(Root()), 50);
