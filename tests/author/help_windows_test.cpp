@@ -1,15 +1,8 @@
 // The readme and the about box.
-#include <QLabel>
-#include <QMdiArea>
-#include <QMdiSubWindow>
-#include <QPushButton>
 #include <algorithm>
 
 #include "author/about_window.h"
 #include "author/readme_window.h"
-#include "engine/program_title.h"
-#include "shell/form_names.h"
-#include "shell/text_box.h"
 #include "tests/support/windows_fixture.h"
 
 namespace quenloft {
@@ -23,8 +16,7 @@ class HelpWindowsTest : public WindowsFixture {
         ChildWindow* readme = window.Open(form::kReadme);
         const std::string text = readme->findChild<TextBox*>("txtHelp")->Text();
         readme->CloseWindow();
-        QCoreApplication::processEvents();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        LetWindowsClose();
         return text;
     }
 
@@ -34,8 +26,7 @@ class HelpWindowsTest : public WindowsFixture {
           [this](Workspace& workspace) {
               return new frmReadme(workspace, {folder.Path("bin"), folder.Path("bin/../share")});
           }},
-         {form::kAbout, Instances::One,
-          [](Workspace& workspace) { return new frmAbout(workspace); }}}};
+         {form::kAbout, Instances::One, Make<frmAbout>}}};
 };
 
 TEST_F(HelpWindowsTest, TheReadmeBesideTheProgramComesFirst) {
@@ -53,32 +44,25 @@ TEST_F(HelpWindowsTest, TheReadmeBesideTheProgramComesFirst) {
 
 TEST_F(HelpWindowsTest, AboutTellsTheVersionAndStartsTheDesktopsTool) {
     ChildWindow* about = window.Open(form::kAbout);
-    EXPECT_EQ(about->windowTitle(), "About Quenloft");
     EXPECT_EQ(about->findChild<QLabel*>("lblVersion")->text().toStdString(),
               "Version " + ProgramVersion());
-    EXPECT_EQ(about->findChild<QLabel*>("lblDescription")->text(),
-              "A simple program for generating anything");
-    auto* button = about->findChild<QPushButton*>("cmdSysInfo");
     desktop.installed = "hardinfo";
-    button->click();
-    EXPECT_EQ(desktop.started, (std::vector<std::string>{"kinfocenter", "hardinfo2", "hardinfo"}));
+    Click(*about, "cmdSysInfo");
+    EXPECT_EQ(desktop.started, (Log{"kinfocenter", "hardinfo2", "hardinfo"}));
     desktop.installed.clear();
     for (const char* environment : {"ubuntu:GNOME", "XFCE"}) {
         qputenv("XDG_CURRENT_DESKTOP", environment);
         desktop.started.clear();
         dialogs.WillConfirm();
-        button->click();
+        Click(*about, "cmdSysInfo");
+        EXPECT_EQ(dialogs.TakeLog(),
+                  Log{"message: System Information Is Unavailable At This Time"});
         const auto isGnomes = [](const std::string& call) { return call.starts_with("gnome-"); };
         EXPECT_EQ(std::any_of(desktop.started.begin(), desktop.started.end(), isGnomes),
                   environment == std::string("ubuntu:GNOME"));
     }
-    dialogs.TakeLog();
-    dialogs.WillConfirm();
-    button->click();
-    EXPECT_EQ(dialogs.TakeLog(),
-              std::vector<std::string>{"message: System Information Is Unavailable At This Time"});
     QTest::keyClick(about->findChild<QPushButton*>("cmdOK"), Qt::Key_Return);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    LetWindowsClose();
     EXPECT_TRUE(window.findChild<QMdiArea*>()->subWindowList().isEmpty());
 }
 
