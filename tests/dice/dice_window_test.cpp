@@ -1,27 +1,13 @@
-#include <QCheckBox>
 
 #include "tests/dice/dice_windows.h"
 
 namespace quenloft {
 namespace {
 
-using Log = std::vector<std::string>;
-
 class DiceWindow : public DiceWindowsFixture {
   protected:
     DiceWindow() { Open(form::kDice); }
 };
-
-TEST_F(DiceWindow, OpensWithOneDieOfSixFacesAtItsPlace) {
-    EXPECT_EQ(child->windowTitle(), "Dice");
-    EXPECT_EQ(Text("txtNrDice") + Text("txtDiceType") + Text("txtAdd") + Text("txtResult") +
-                  Text("txtRolls"),
-              "16001");
-    EXPECT_EQ(Caption("btnRoll") + Caption("btnClear") + Caption("chkOpenEnded"),
-              "&Roll&ClearOpenended");
-    EXPECT_EQ(child->Export(), "");
-    EXPECT_EQ(child->parentWidget()->pos(), QPoint(273, 122));
-}
 
 TEST_F(DiceWindow, PutsTheNewestResultOnTop) {
     Type("txtDiceType", "1");

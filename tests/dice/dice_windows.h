@@ -1,13 +1,7 @@
 // The dice windows inside a main window, and what a user does in them.
 #pragma once
 
-#include <QAbstractButton>
-#include <QLineEdit>
-#include <QTest>
-#include <gtest/gtest.h>
-#include <memory>
 #include <regex>
-#include <string>
 
 #include "dice/dice_window.h"
 #include "dice/drovemark_window.h"
@@ -15,7 +9,6 @@
 #include "dice/result_list.h"
 #include "dice/shadowrun_window.h"
 #include "dice/simulation_on.h"
-#include "shell/form_names.h"
 #include "tests/support/windows_fixture.h"
 
 namespace quenloft {
@@ -48,9 +41,11 @@ class DiceWindowsFixture : public WindowsFixture {
         const auto* button = Find<QAbstractButton>(name);
         return button->text().toStdString() + (button->isEnabled() ? "" : " (disabled)");
     }
-    /// What the window exports, with "N" for seconds.
+    /// What the window exports, with "N" for seconds and "NOW" for times.
     std::string Report() {
-        return std::regex_replace(child->Export(), std::regex(R"(in \d+ seconds)"), "in N seconds");
+        const std::string text =
+            std::regex_replace(child->Export(), std::regex(R"(in \d+ seconds)"), "in N seconds");
+        return std::regex_replace(text, std::regex(R"(\d{4}-\d\d-\d\d \d\d:\d\d:\d\d)"), "NOW");
     }
 
     SimulationOn<SystemRandomSource> simulation{random};

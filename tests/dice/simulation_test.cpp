@@ -5,6 +5,7 @@
 
 #include "dice/simulation_on.h"
 #include "platform/linux/system_random_source.h"
+#include "tests/support/failure_of.h"
 #include "tests/support/fake_random.h"
 
 namespace quenloft {
@@ -147,32 +148,6 @@ TEST(Simulation, ReseedsForEachDieAndNotForARollOfTheSameDie) {
     EXPECT_EQ(counts.Of(1), 1);
     EXPECT_EQ(random.timerReseeds, 2);
     EXPECT_EQ(random.reseeds.size(), 0);
-}
-
-TEST(Simulation, MixesEntropyForEachDieWhereAsked) {
-    ScriptedRandom random{0, 0, 0, 0, 0, 0, 0, 0, 0, 0.5, 0.99};
-    SimulationOn<RandomSource> simulation(random);
-    const std::vector<DiceGroup> groups = {{1, 6, 0}};
-    TotalTally tally;
-    simulation.CountTotals(
-        {.groups = groups, .rolls = 1, .rules = {.increaseRandomness = true, .seed = 11}}, {0, 5},
-        tally);
-    EXPECT_EQ(tally.counts.Of(6), 1);
-    EXPECT_EQ(tally.above, 1);
-    EXPECT_EQ(tally.highest, 6);
-    EXPECT_EQ(random.reseeds, std::vector<double>{11.0}) << "(9 + 11) / 2 + 1";
-    EXPECT_EQ(random.timerReseeds, 0);
-}
-
-/// The words of the failure that `run` ends with.
-template <typename Run>
-std::string FailureOf(Run run) {
-    try {
-        run();
-    } catch (const Failure& failure) {
-        return failure.what();
-    }
-    return "none";
 }
 
 TEST(Simulation, FailsInTheRuntimesWords) {

@@ -1,11 +1,8 @@
-#include <QTimer>
 
 #include "tests/dice/dice_windows.h"
 
 namespace quenloft {
 namespace {
-
-using Log = std::vector<std::string>;
 
 const std::string kDashes(92, '-');
 constexpr char kHeader[] = "\r\nSuccesses\tOutcome\t% of Total\t\t% to get\r\n";
@@ -16,21 +13,15 @@ class ShadowrunWindow : public DiceWindowsFixture {
 };
 
 TEST_F(ShadowrunWindow, AddsUpItsRuns) {
-    EXPECT_EQ(child->windowTitle(), "Shadowrun Dice Probability Analysis");
-    EXPECT_EQ(
-        Text("txtNrofDice") + Text("txtDieFaces") + Text("txtTargetNumber") + Text("txtRolls"),
-        "1600");
     Click("cmdRoll");
     EXPECT_EQ(child->Export(), "") << "no rolls";
     Type("txtTargetNumber", "7");
     Type("txtRolls", "1000");
     Click("cmdRoll");
-    const std::string title =
-        kDashes + "\r\n1D6 rolled 1000 times against Target No 7 in N seconds" + kHeader;
-    EXPECT_EQ(Report(), title + "0\t\t1000\t100.000 %\t\t100.000 %");
     Click("btnClear");
     Click("cmdRoll");
-    EXPECT_EQ(Report(), title + "0\t\t2000\t200.000 %\t\t100.000 %");
+    EXPECT_EQ(Report(), kDashes + "\r\n1D6 rolled 1000 times against Target No 7 in N seconds" +
+                            kHeader + "0\t\t2000\t200.000 %\t\t100.000 %");
 }
 
 TEST_F(ShadowrunWindow, ListsTheRollsThatAFailedRunHasMade) {
@@ -50,13 +41,11 @@ TEST_F(ShadowrunWindow, RunsAScriptOfPools) {
         "pools.scr", "[Autorun]\nOpenEnded=0\nRolls=2\nDieFaces=1\n[Values]\nDice1=2\nTarget=1\n");
     dialogs.WillGive(path);
     Click("btnRollCfg");
-    const std::string report =
-        std::regex_replace(Report(), std::regex(R"(\d{4}-\d\d-\d\d \d\d:\d\d:\d\d)"), "NOW");
-    EXPECT_EQ(report, "Script " + path + "\r\nstarted NOW\r\n" + kDashes + "\r\n" + kDashes +
-                          "\r\n2D1 rolled 2 times against Target No 1 in N seconds" + kHeader +
-                          "0\t\t0\t00.000 %\t\t100.000 %\r\n1\t\t0\t00.000 %\t\t100.000 %\r\n"
-                          "2\t\t2\t100.000 %\t\t100.000 %\r\n" +
-                          kDashes + "\r\nScript ended NOW with 2 rolls in N seconds");
+    EXPECT_EQ(Report(), "Script " + path + "\r\nstarted NOW\r\n" + kDashes + "\r\n" + kDashes +
+                            "\r\n2D1 rolled 2 times against Target No 1 in N seconds" + kHeader +
+                            "0\t\t0\t00.000 %\t\t100.000 %\r\n1\t\t0\t00.000 %\t\t100.000 %\r\n"
+                            "2\t\t2\t100.000 %\t\t100.000 %\r\n" +
+                            kDashes + "\r\nScript ended NOW with 2 rolls in N seconds");
 }
 
 TEST_F(ShadowrunWindow, EndsAFailedScriptWithoutAWordAndKeepsItsLines) {
@@ -90,8 +79,7 @@ TEST_F(DrovemarkWindow, StepsItsBoxesAndTakesAnyText) {
     EXPECT_EQ(Text("txtWhite") + Text("txtRed") + Text("txtBlack"), "21 or so0");
     Type("txtRolls", "1");
     Click("btnRoll");
-    EXPECT_EQ(Report().substr(0, 133),
-              kDashes + "\r\nWWR rolled 1 times in N seconds" + std::string(kHeader).substr(0, 8));
+    EXPECT_TRUE(Report().starts_with(kDashes + "\r\nWWR rolled 1 times in N seconds" + kHeader));
 }
 
 TEST_F(DrovemarkWindow, RollsWithoutDiceToo) {
