@@ -123,56 +123,45 @@ TEST_F(EngineRuns, AFileChangedOnDiskIsRolledAnew) {
     EXPECT_EQ(Roll("x.tbl"), "new");
     WriteTable("y.tbl", "broken @ here");
     EXPECT_NE(Roll("x.tbl").find("no partner"), std::string::npos);
-    WriteTable("y.tbl", "mended");
-    EXPECT_EQ(Roll("x.tbl"), "mended");
     std::filesystem::remove(folder.Path("y.tbl"));
     EXPECT_NE(Roll("x.tbl").find("File not found"), std::string::npos);
     folder.Write("y.spt", "a script now\n");
     EXPECT_EQ(Roll("x.tbl"), "a script now");
 
-    // A table of the same name in another folder is another table.
+    // Within a run a change is seen once other programs had a turn.
+    host.onYield = [&] {
+        folder.Write("y.spt", "changed\n");
+        return true;
+    };
+    EXPECT_EQ(Roll("x.tbl"), "changed");
+}
+
+TEST_F(EngineRuns, ATableOfTheSameNameInAnotherFolderIsAnotherTable) {
     WriteTable("one/main.tbl", "#name#");
     WriteTable("one/name.tbl", "broken @ here");
     WriteTable("two/main.tbl", "#name#");
     WriteTable("two/name.tbl", "two");
     EXPECT_NE(Roll("one/main.tbl").find("no partner"), std::string::npos);
     EXPECT_EQ(Roll("two/main.tbl"), "two");
-
-    // Within a run a change is seen once other programs had a turn.
-    host.onYield = [&] {
-        WriteTable("two/name.tbl", "changed");
-        return true;
-    };
-    EXPECT_EQ(Roll("two/main.tbl"), "changed");
 }
 
 TEST_F(EngineRuns, BrokenFilesGiveTextNotCrashes) {
-    const std::string bar = "\xC2\xA4";
-    const std::string sign = "\xC2\xA7";
     const struct {
         const char* name;
         std::string bytes;
         const char* expected;  // Stands in the result.
     } cases[] = {
-        {"windows.tbl",
-         "T\xA4"
-         "1\r\n\r\n1\xA7"
-         "caf\xE9 \x80\r\n",
-         "café €"},
-        {"mixed.tbl",
-         "T\xA4"
-         "1\n1" +
-             sign + "Wörter\n",
-         "Wörter"},
-        {"bom.tbl", "\xEF\xBB\xBFT" + bar + "1\n1" + sign + "x", "x"},
-        {"cr.tbl", "T" + bar + "2\r1" + sign + "x\r2" + sign + "x\r", "x"},
-        {"nul.tbl", "T" + bar + "1\n1" + sign + std::string("a\0b", 3) + "\n", "b"},
-        {"negative.tbl", "T" + bar + "-5\n-5" + sign + "minus five\n", "minus five"},
-        {"text.tbl", "T" + bar + "lots\n1" + sign + "one\n", "one"},
+        {"windows.tbl", InCodePage("T¤1\r\n\r\n1§") + "caf\xE9 \x80\r\n", "café €"},
+        {"mixed.tbl", InCodePage("T¤1\n") + "1§Wörter\n", "Wörter"},
+        {"bom.tbl", "\uFEFFT¤1\n1§x", "x"},
+        {"cr.tbl", "T¤2\r1§x\r2§x\r", "x"},
+        {"nul.tbl", "T¤1\n1§" + std::string("a\0b", 3) + "\n", "b"},
+        {"negative.tbl", "T¤-5\n-5§minus five\n", "minus five"},
+        {"text.tbl", "T¤lots\n1§one\n", "one"},
         {"nosign.tbl", "just a line\nand another", "and another"},
-        {"falling.tbl", "T" + bar + "1\n9" + sign + "nine\n1" + sign + "one\n", "nine"},
-        {"long.tbl", "T" + bar + "1\n1" + sign + std::string(5 << 20, 'x') + "\n", "xxxxxxxx"},
-        {"feeds.tbl", "T" + bar + "1\n1" + sign + "??a=??a????\n", ""},
+        {"falling.tbl", "T¤1\n9§nine\n1§one\n", "nine"},
+        {"long.tbl", "T¤1\n1§" + std::string(5 << 20, 'x') + "\n", "xxxxxxxx"},
+        {"feeds.tbl", "T¤1\n1§??a=??a????\n", ""},
     };
     for (const auto& c : cases) {
         folder.Write(c.name, c.bytes);
@@ -195,17 +184,14 @@ TEST_F(EngineRuns, BrokenFilesGiveTextNotCrashes) {
 }
 
 TEST_F(EngineRuns, TitlesAreReadWithoutRolling) {
-    const std::string bar = "\xC2\xA4";
     const struct {
         std::string bytes;
         const char* title;
     } cases[] = {
-        {"; comment\r\n\r\n  \r\nTitle" + bar + "10\r\n", "Title"},
-        {" ;indented comment\nDragons " + bar + " 12\n", "Dragons "},
-        {"Caf\xE9\xA4"
-         "3\r\n",
-         "Café"},
-        {bar + "3\n", ""},
+        {"; comment\r\n\r\n  \r\nTitle¤10\r\n", "Title"},
+        {" ;indented comment\nDragons ¤ 12\n", "Dragons "},
+        {InCodePage("Caf\xE9¤3\r\n"), "Café"},
+        {"¤3\n", ""},
         {"no header\n", "!Invalid fileheader!"},
         {"", "!Invalid fileheader!"},
         {";only\n\n", "!Invalid fileheader!"},

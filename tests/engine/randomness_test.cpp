@@ -77,13 +77,7 @@ TEST(Randomness, TwoProgramsStartedAtOnceRollDifferently) {
 }
 
 TEST_F(EngineFixture, TablesRollByTheirWeights) {
-    folder.Write("w.tbl",
-                 "T\xC2\xA4"
-                 "10\n\n1\xC2\xA7"
-                 "1\n2\xC2\xA7"
-                 "2\n3\xC2\xA7"
-                 "3\n10\xC2\xA7"
-                 "4\n");
+    folder.Write("w.tbl", "T¤10\n\n1§1\n2§2\n3§3\n10§4\n");
     std::vector<int> rolls;
     long last = 0;
     engine.ResetGeneration();

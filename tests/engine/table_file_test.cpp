@@ -15,14 +15,14 @@ std::string RandomTable(std::mt19937& generator) {
     const auto draw = [&](int n) {
         return static_cast<int>(generator() % static_cast<unsigned>(n));
     };
-    std::string table = draw(4) == 0 ? ";c\nT\xC2\xA4" : "T\xC2\xA4";
+    std::string table = draw(4) == 0 ? ";c\nT¤" : "T¤";
     table += std::to_string(draw(25)) + "\n";
     const bool rises = draw(3) != 0;
     int bound = draw(3) - 1;
     for (int line = draw(12); line > 0; --line) {
         switch (draw(7)) {
             case 0:
-                table += draw(2) == 0 ? ";c\n" : ";c \xC2\xA7\n";
+                table += draw(2) == 0 ? ";c\n" : ";c §\n";
                 break;
             case 1:
                 table += "\n";
@@ -32,10 +32,7 @@ std::string RandomTable(std::mt19937& generator) {
                 break;
             default:
                 bound = rises ? bound + draw(5) : draw(25) - 2;
-                table += std::to_string(bound) +
-                         "\xC2\xA7"
-                         "e" +
-                         std::to_string(line) + "\n";
+                table += std::to_string(bound) + "§e" + std::to_string(line) + "\n";
         }
     }
     return table;
