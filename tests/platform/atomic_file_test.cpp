@@ -80,15 +80,16 @@ TEST(AtomicFileTest, NamesTheFileAndTheReason) {
     const TempFolder folder;
     fs::create_directory(folder.Path("sub"));
     fs::create_symlink("loop", folder.Path("loop"));
-    const std::string longName(300, 'x');
-    EXPECT_EQ(SentenceOf(folder.Path("none/x.tbl"), ""),
-              folder.Path("none/x.tbl") + " could not be saved: No such file or directory");
-    EXPECT_EQ(SentenceOf(folder.Path("sub"), ""),
-              folder.Path("sub") + " could not be saved: Is a directory");
-    EXPECT_EQ(SentenceOf(folder.Path("loop"), ""),
-              folder.Path("loop") + " could not be saved: Too many levels of symbolic links");
-    EXPECT_EQ(SentenceOf(folder.Path(longName), ""),
-              folder.Path(longName) + " could not be saved: File name too long");
+    const std::pair<std::string, const char*> cases[] = {
+        {"none/x.tbl", "No such file or directory"},
+        {"sub", "Is a directory"},
+        {"loop", "Too many levels of symbolic links"},
+        {std::string(300, 'x'), "File name too long"},
+    };
+    for (const auto& [name, reason] : cases) {
+        EXPECT_EQ(SentenceOf(folder.Path(name), ""),
+                  folder.Path(name) + " could not be saved: " + reason);
+    }
     EXPECT_EQ(SentenceOf("/dev/null", ""), "/dev/null is not a regular file");
 }
 

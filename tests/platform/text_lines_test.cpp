@@ -15,16 +15,6 @@ namespace {
 using namespace std::string_literals;
 using Lines = std::vector<std::string>;
 
-struct TextCase {
-    const char* name;
-    std::string bytes;
-    Lines lines;
-};
-
-void PrintTo(const TextCase& textCase, std::ostream* out) { *out << textCase.name; }
-
-class TextLinesTest : public testing::TestWithParam<TextCase> {};
-
 Lines AllLines(const TextFile& file) {
     Lines lines;
     for (std::size_t i = 0; i < file.LineCount(); ++i) {
@@ -41,42 +31,44 @@ Lines AllLines(LineReader&& reader) {
     return lines;
 }
 
-TEST_P(TextLinesTest, AreTheSameWhicheverWayTheyAreRead) {
+TEST(TextLinesTest, AreTheSameWhicheverWayTheyAreRead) {
     const TempFolder folder;
-    EXPECT_EQ(AllLines(LoadedTextFile(GetParam().bytes, "")), GetParam().lines);
-    EXPECT_EQ(AllLines(DiskLineReader(folder.Write("x.tbl", GetParam().bytes))), GetParam().lines);
+    const struct {
+        const char* what;
+        std::string bytes;
+        Lines lines;
+    } cases[] = {
+        {"empty file", "", {}},
+        {"one end is one empty line", "\n", {""}},
+        {"all three line ends", "a\r\nb\nc\rd", {"a", "b", "c", "d"}},
+        {"ends in a row", "\r\r\n\n\r", {"", "", "", ""}},
+        {"end at the end starts no line", "a\r\nb\r\n", {"a", "b"}},
+        {"byte order mark", "\uFEFFa\n", {"a"}},
+        {"byte order mark alone", "\xEF\xBB\xBF", {}},
+        {"half a byte order mark", "\xEF\xBB", {"\xC3\xAF\xC2\xBB"}},
+        {"nul characters", "a\0b\n\0"s, {"a\0b"s, "\0"s}},
+        {"each line in its own encoding",
+         "5\xA7Text\n5\xC2\xA7Text\n\x80\x81",
+         {"5\xC2\xA7Text", "5\xC2\xA7Text", "\xE2\x82\xAC\xC2\x81"}},
+        {"line longer than a block",
+         std::string(10'000, 'x') + "\ny",
+         {std::string(10'000, 'x'), "y"}},
+        {"line end across the border of blocks",
+         std::string(4095, 'x') + "\r\ny",
+         {std::string(4095, 'x'), "y"}},
+        {"lone return at the end of a block",
+         std::string(4095, 'x') + "\r",
+         {std::string(4095, 'x')}},
+        {"letter across the border of blocks",
+         std::string(4095, 'x') + "\xC2\xA7\n",
+         {std::string(4095, 'x') + "\xC2\xA7"}},
+    };
+    for (const auto& [what, bytes, lines] : cases) {
+        SCOPED_TRACE(what);
+        EXPECT_EQ(AllLines(LoadedTextFile(bytes, "")), lines);
+        EXPECT_EQ(AllLines(DiskLineReader(folder.Write("x.tbl", bytes))), lines);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Texts, TextLinesTest,
-    testing::Values(TextCase{"empty_file", "", {}},  //
-                    TextCase{"one_end_is_one_empty_line", "\n", {""}},
-                    TextCase{"all_three_line_ends", "a\r\nb\nc\rd", {"a", "b", "c", "d"}},
-                    TextCase{"ends_in_a_row", "\r\r\n\n\r", {"", "", "", ""}},
-                    TextCase{"end_at_the_end_starts_no_line", "a\r\nb\r\n", {"a", "b"}},
-                    TextCase{"byte_order_mark",
-                             "\xEF\xBB\xBF"
-                             "a\n",
-                             {"a"}},
-                    TextCase{"byte_order_mark_alone", "\xEF\xBB\xBF", {}},
-                    TextCase{"half_a_byte_order_mark", "\xEF\xBB", {"\xC3\xAF\xC2\xBB"}},
-                    TextCase{"nul_characters", "a\0b\n\0"s, {"a\0b"s, "\0"s}},
-                    TextCase{"each_line_in_its_own_encoding",
-                             "5\xA7Text\n5\xC2\xA7Text\n\x80\x81",
-                             {"5\xC2\xA7Text", "5\xC2\xA7Text", "\xE2\x82\xAC\xC2\x81"}},
-                    TextCase{"line_longer_than_a_block",
-                             std::string(10'000, 'x') + "\ny",
-                             {std::string(10'000, 'x'), "y"}},
-                    TextCase{"line_end_across_the_border_of_blocks",
-                             std::string(4095, 'x') + "\r\ny",
-                             {std::string(4095, 'x'), "y"}},
-                    TextCase{"lone_return_at_the_end_of_a_block",
-                             std::string(4095, 'x') + "\r",
-                             {std::string(4095, 'x')}},
-                    TextCase{"letter_across_the_border_of_blocks",
-                             std::string(4095, 'x') + "\xC2\xA7\n",
-                             {std::string(4095, 'x') + "\xC2\xA7"}}),
-    [](const testing::TestParamInfo<TextCase>& info) { return info.param.name; });
 
 TEST(TextCacheTest, DropsTheLongestUnusedAndNeverWhatIsInUse) {
     const TempFolder folder;
