@@ -1,8 +1,8 @@
 #include "dice/analysis_report.h"
 
-#include <gtest/gtest.h>
-
+#include "dice/simulation_on.h"
 #include "tests/support/failure_of.h"
+#include "tests/support/fake_random.h"
 
 namespace quenloft {
 namespace {
@@ -13,10 +13,7 @@ const std::string kShort(59, '-');
 const std::string kLong(92, '-');
 
 TEST(PercentText, RoundsToFiveDecimalsHalfToEvenAndThenToThreeHalfUp) {
-    const struct {
-        double percent;
-        const char* text;
-    } cases[] = {
+    const std::pair<double, const char*> cases[] = {
         {0, "00.000"},           {5.217, "05.217"},      {100, "100.000"},  {0.0005, "00.001"},
         {99.9995, "100.000"},    {1.2345, "01.235"},     {-1.5, "-01.500"}, {0.0004951, "00.001"},
         {0.0004949, "00.000"},   {-0.0000001, "00.000"}, {200, "200.000"},  {33.3333333, "33.333"},
@@ -30,26 +27,21 @@ TEST(PercentText, RoundsToFiveDecimalsHalfToEvenAndThenToThreeHalfUp) {
 
 class TotalsReport : public testing::Test {
   protected:
-    /// Counts the totals as a run over `range` does.
     std::string Report(const std::vector<std::int32_t>& totals, const DisplayRange& range,
                        std::string_view dice) {
-        TotalTally tally;
+        const std::vector<DiceGroup> anyTotal = {{1, 2'000'000'000, 0}};
+        ScriptedRandom random{};
         for (const std::int32_t total : totals) {
-            tally.counts.Count(total);
-            if (range.upper < total) {
-                ++tally.above;
-                tally.highest = std::max(tally.highest, total);
-            }
-            if (range.lower > total) {
-                ++tally.below;
-                tally.lowest = std::min(tally.lowest, total);
-            }
+            random.Add((total - 0.5) / 2'000'000'000);
         }
+        const auto rolls = static_cast<std::int32_t>(totals.size());
+        TotalTally tally;
+        SimulationOn<RandomSource>(random).CountTotals(
+            {.groups = anyTotal, .rolls = rolls, .rules = {}}, range, tally);
         clsRoll handful;
         handful.FillValue(dice);
         ReportLines lines;
-        AddTotalsReport(handful, {static_cast<std::int32_t>(totals.size()), 3}, range, tally,
-                        lines);
+        AddTotalsReport(handful, {rolls, 3}, range, tally, lines);
         std::string text;
         for (const std::string& line : lines.Take()) {
             text += line == kShort ? "---\n" : line + "\n";

@@ -66,12 +66,6 @@ TEST_F(AnalysisScript, OfHandfulsRunsThemInTheFilesOrder) {
               expected);
 }
 
-TEST_F(AnalysisScript, WithoutSettingsIsOpenEndedAndDoesNotRoll) {
-    EXPECT_EQ(Run(Kind::Totals, "[Values]\nA=D4\n"),
-              "Script /script.scr\nstarted NOW\n---59\nValue A Roll D4\n<1D4 x 0>\n---59\n---59\n"
-              "Script ended NOW with 0 rolls in N seconds\nopen-ended");
-}
-
 TEST_F(AnalysisScript, WithoutEntriesNamesTheRollsOfTheLastEntryRun) {
     Run(Kind::Totals, "[Autorun]\nRolls=7\n[Values]\nA=D4\n");
     for (const char* bytes :
@@ -102,18 +96,6 @@ TEST_F(AnalysisScript, OfPoolsRunsEachSizeWithEachTarget) {
               "Script /script.scr\nstarted NOW\n---92\n<2D6 against 3 x 10>\n<2D6 against 6 x 10>\n"
               "<4D6 against 3 x 10>\n<4D6 against 6 x 10>\n---92\n"
               "Script ended NOW with 10 rolls in N seconds\nopen-ended");
-}
-
-TEST_F(AnalysisScript, OfTenThousandEntriesRunsThoseThatTheListOfKeysHolds) {
-    std::string bytes = "[Values]\r\n";
-    for (int i = 10'000; i < 20'000; ++i) {
-        bytes += "K" + std::to_string(i) + "=D6\r\n";
-    }
-    const std::string text = Run(Kind::Totals, bytes);
-    // 1,022 characters: 146 names of seven.
-    EXPECT_NE(text.find("Value K10145 Roll D6\n"), std::string::npos);
-    EXPECT_EQ(text.find("Value K10146"), std::string::npos);
-    EXPECT_NE(text.find("Script ended"), std::string::npos);
 }
 
 }  // namespace

@@ -1,8 +1,70 @@
+// The dice windows inside a main window, and what a user does in them.
+#include "dice/dice_window.h"
 
-#include "tests/dice/dice_windows.h"
+#include <QCheckBox>
+#include <regex>
+
+#include "dice/drovemark_window.h"
+#include "dice/probability_window.h"
+#include "dice/result_list.h"
+#include "dice/shadowrun_window.h"
+#include "dice/simulation_on.h"
+#include "tests/support/windows_fixture.h"
 
 namespace quenloft {
 namespace {
+
+class DiceWindowsFixture : public WindowsFixture {
+  protected:
+    /// Shows the window called `formName`.
+    void Open(const char* formName) {
+        ShowMainWindow(window);
+        child = window.Open(formName);
+    }
+    template <typename Control>
+    Control* Find(const char* name) {
+        auto* control = child->findChild<Control*>(name);
+        EXPECT_TRUE(control) << name;
+        return control;
+    }
+    void Type(const char* name, const QString& text) {
+        auto* box = Find<QLineEdit>(name);
+        box->selectAll();
+        QTest::keyClicks(box, text);
+    }
+    void Click(const char* name) {
+        QTest::mouseClick(Find<QWidget>(name), Qt::LeftButton, {},
+                          Find<QWidget>(name)->rect().center());
+    }
+    void Check(const char* name) { Find<QAbstractButton>(name)->setChecked(true); }
+    QString Text(const char* name) { return Find<QLineEdit>(name)->text(); }
+    std::string Caption(const char* name) {
+        const auto* button = Find<QAbstractButton>(name);
+        return button->text().toStdString() + (button->isEnabled() ? "" : " (disabled)");
+    }
+    /// What the window exports, with "N" for seconds and "NOW" for times.
+    std::string Report() {
+        const std::string text =
+            std::regex_replace(child->Export(), std::regex(R"(in \d+ seconds)"), "in N seconds");
+        return std::regex_replace(text, std::regex(R"(\d{4}-\d\d-\d\d \d\d:\d\d:\d\d)"), "NOW");
+    }
+
+    SimulationOn<SystemRandomSource> simulation{random};
+    template <typename Window, typename Odds>
+    static WindowKind KindOf(const char* formName, Odds& odds) {
+        return {formName, Instances::Many,
+                [&odds](Workspace& workspace) { return new Window(workspace, odds); }};
+    }
+    frmMain window{Services(),
+                   {KindOf<frmDice>(form::kDice, random),
+                    KindOf<frmProbability>(form::kProbability, simulation),
+                    KindOf<frmShadowrunProbability>(form::kShadowrunProbability, simulation),
+                    KindOf<frmDrovemark>(form::kDrovemark, simulation)}};
+    ChildWindow* child = nullptr;
+};
+
+constexpr char kScriptFilter[] =
+    "KS script (*.scr)|*.scr|Text files(*.txt)|*.txt|All files(*.*)|*.*";
 
 class DiceWindow : public DiceWindowsFixture {
   protected:
@@ -24,7 +86,6 @@ TEST_F(DiceWindow, PutsTheNewestResultOnTop) {
 
 TEST_F(DiceWindow, RollsByEnterAndByF5) {
     QTest::keyClick(Find<QLineEdit>("txtAdd"), Qt::Key_Return);
-    EXPECT_EQ(Find<ResultList>("lstResults")->model()->rowCount(), 1);
     QTest::keyClick(Find<QLineEdit>("txtAdd"), Qt::Key_F5);
     EXPECT_EQ(Find<ResultList>("lstResults")->model()->rowCount(), 2);
 }
@@ -35,8 +96,6 @@ TEST_F(DiceWindow, ShowsAFailureAndStaysUsable) {
     dialogs.WillConfirm();
     Click("btnRoll");
     EXPECT_EQ(dialogs.TakeLog(), Log{"warning: Overflow"});
-    EXPECT_FALSE(QApplication::overrideCursor());
-    EXPECT_EQ(child->Export(), "");
     Type("txtDiceType", "0");
     Click("btnRoll");
     EXPECT_EQ(child->Export(), "1D0~ = 0");
@@ -49,14 +108,181 @@ TEST_F(DiceWindow, DoesNotRollWhileARunGoesOn) {
     window.DisableAbort();
 }
 
-TEST_F(DiceWindow, ShowsAHundredThousandLines) {
-    auto* list = Find<ResultList>("lstResults");
-    Type("txtRolls", "100000");
+const std::string kShortDashes(59, '-');
+
+class ProbabilityWindow : public DiceWindowsFixture {
+  protected:
+    ProbabilityWindow() { Open(form::kProbability); }
+};
+
+TEST_F(ProbabilityWindow, AppendsAReportForEachRun) {
+    Click("cmdRoll");
+    EXPECT_EQ(child->Export(), "") << "no rolls";
+    Type("txtDisplayMin", "3");
+    Type("txtRolls", "50");
+    Click("cmdRoll");
+    const std::string report = kShortDashes +
+                               "\r\n rolled 50 times in N seconds\r\n"
+                               "Result\tOutcome\t% of Total\t\t% to get\r\n"
+                               "50 results were below 3\r\nLowest roll result: 0\r\n" +
+                               kShortDashes;
+    EXPECT_EQ(Report(), report);
+    EXPECT_FALSE(Find<QLabel>("lblRolled")->isVisible()) << "nobody counts";
+    Check("chkCounter");
+    Click("cmdRoll");
+    EXPECT_EQ(Report(), report + "\r\n" + report);
+    EXPECT_EQ(Find<QLabel>("lblRolled")->text(), "50");
+    EXPECT_TRUE(Find<QLabel>("lblRolled")->isVisible());
+    Click("btnClear");
+    EXPECT_EQ(child->Export(), "");
+}
+
+TEST_F(ProbabilityWindow, RefusesTextThatIsNoNumberAndStaysUsable) {
+    for (const char* box : {"txt6", "txt20", "txtRolls"}) {
+        Find<QLineEdit>(box)->setText("12x");
+        dialogs.WillConfirm();
+        Click("cmdRoll");
+        EXPECT_EQ(dialogs.TakeLog(), Log{"warning: Type mismatch"}) << box;
+        EXPECT_EQ(child->Export() + Caption("cmdRoll"), "Roll");
+        Find<QLineEdit>(box)->setText("0");
+    }
+}
+
+TEST_F(ProbabilityWindow, KeepsTheButtonOfARunThatFailed) {
+    Type("txtDisplayUpto", "9999999999");
+    Type("txtRolls", "5");
+    dialogs.WillConfirm();
+    Click("cmdRoll");
+    EXPECT_EQ(dialogs.TakeLog(), Log{"warning: Overflow"});
+    EXPECT_EQ(Caption("cmdRoll"), "Rolling... (disabled)");
+    EXPECT_FALSE(QApplication::overrideCursor());
+}
+
+TEST_F(ProbabilityWindow, RunsAScript) {
+    dialogs.WillGive(
+        folder.Write("dice.scr", "[Autorun]\nOpenEnded=1\nRolls=3\n[Values]\nNone=x\n"));
+    Click("btnRollCfg");
+    EXPECT_EQ(dialogs.TakeLog(),
+              Log{std::string("open: ") + kScriptFilter + " in " + folder.Path()});
+    EXPECT_TRUE(Find<QCheckBox>("chkOpenEnded")->isChecked());
+    EXPECT_NE(
+        Report().find("\r\nValue None Roll x\r\n" + kShortDashes + "\r\n rolled 3 times in N"),
+        std::string::npos)
+        << Report();
+}
+
+TEST_F(ProbabilityWindow, CopiesAndSavesLinesWithTheirEnds) {
+    Type("txtRolls", "1");
+    Click("cmdRoll");
+    const std::string whole = child->Export() + "\r\n";
+    Click("cmdSave");
+    EXPECT_EQ(clipboard.text, whole);
+    dialogs.WillGive(folder.Path("report.txt"));
+    Click("btnSaveResultTofile");
+    EXPECT_EQ(dialogs.TakeLog(),
+              Log{std::string("save: ") + kScriptFilter + " from 2 at " + folder.Path()});
+    EXPECT_EQ(folder.Read("report.txt"), whole);
+    window.EnableAbort();
+    Click("btnSaveResultTofile");
+    Click("btnRollCfg");
+    window.DisableAbort();
+    EXPECT_TRUE(dialogs.TakeLog().empty()) << "no dialogs during a run";
+}
+
+const std::string kDashes(92, '-');
+constexpr char kHeader[] = "\r\nSuccesses\tOutcome\t% of Total\t\t% to get\r\n";
+
+class ShadowrunWindow : public DiceWindowsFixture {
+  protected:
+    ShadowrunWindow() { Open(form::kShadowrunProbability); }
+};
+
+TEST_F(ShadowrunWindow, AddsUpItsRuns) {
+    Click("cmdRoll");
+    EXPECT_EQ(child->Export(), "") << "no rolls";
+    Type("txtTargetNumber", "7");
+    Type("txtRolls", "1000");
+    Click("cmdRoll");
+    Click("btnClear");
+    Click("cmdRoll");
+    EXPECT_EQ(Report(), kDashes + "\r\n1D6 rolled 1000 times against Target No 7 in N seconds" +
+                            kHeader + "0\t\t2000\t200.000 %\t\t100.000 %");
+}
+
+TEST_F(ShadowrunWindow, ListsTheRollsThatAFailedRunHasMade) {
+    Type("txtNrofDice", "301");
+    Type("txtDieFaces", "1");
+    Type("txtRolls", "2");
+    Check("chkShowRolls");
+    dialogs.WillConfirm();
+    Click("cmdRoll");
+    EXPECT_EQ(dialogs.TakeLog(), Log{"warning: Subscript out of range"});
+    EXPECT_EQ(child->Export().size(), 602U) << "301 dice, each with a comma";
+}
+
+TEST_F(ShadowrunWindow, RunsAScriptOfPools) {
+    dialogs.WillGive(folder.Write("pools.scr",
+                                  "[Autorun]\nOpenEnded=0\nRolls=2\nDieFaces=1\n"
+                                  "[Values]\nDice1=1\nTarget=1\n"));
+    Click("btnRollCfg");
+    EXPECT_NE(Report().find("\r\n1D1 rolled 2 times against Target No 1 in N seconds" +
+                            std::string(kHeader) + "0\t\t0\t00.000 %\t\t100.000 %\r\n"),
+              std::string::npos)
+        << Report();
+}
+
+class DrovemarkWindow : public DiceWindowsFixture {
+  protected:
+    DrovemarkWindow() { Open(form::kDrovemark); }
+    /// Rolls for ever, `act` happening during it.
+    template <typename Act>
+    void RollWhile(Act act) {
+        Type("txtRolls", "2000000000");
+        QTimer::singleShot(0, act);
+        Click("btnRoll");
+    }
+};
+
+TEST_F(DrovemarkWindow, StepsItsBoxesAndTakesAnyText) {
+    QTest::keyClick(Find<QLineEdit>("txtWhite"), Qt::Key_Up);
+    QTest::keyClick(Find<QLineEdit>("txtWhite"), Qt::Key_Up);
+    QTest::keyClick(Find<QLineEdit>("txtBlack"), Qt::Key_Down);
+    Type("txtRed", "1 or so");
+    Type("txtRolls", "1");
     Click("btnRoll");
-    QApplication::processEvents();
-    list->scrollToBottom();
-    list->grab();
-    EXPECT_EQ(list->model()->rowCount(), 100'000);
+    EXPECT_EQ(Text("txtWhite") + Text("txtRed") + Text("txtBlack"), "21 or so0");
+    EXPECT_TRUE(Report().starts_with(kDashes + "\r\nWWR rolled 1 times in N seconds" + kHeader));
+}
+
+TEST_F(DrovemarkWindow, IsCancelledDuringARun) {
+    RollWhile([this] {
+        EXPECT_EQ(Caption("btnRoll") + Caption("btnCancel"), "Roll (disabled)Cancel");
+        EXPECT_TRUE(QApplication::overrideCursor());
+        QTest::keyClick(child, Qt::Key_F5);
+        Click("btnCancel");
+        Click("btnRoll");
+    });
+    EXPECT_TRUE(Report().starts_with(kDashes + "\r\n rolled 2000000000 times in N seconds\r\n"));
+    EXPECT_EQ(Caption("btnRoll") + Caption("btnCancel"), "RollCancel (disabled)");
+    EXPECT_FALSE(QApplication::overrideCursor());
+}
+
+TEST_F(DrovemarkWindow, EndsItsRunAndClosesWhenItIsClosed) {
+    QPointer<ChildWindow> closed = child;
+    RollWhile([this] { child->CloseWindow(); });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !closed; }));
+    EXPECT_FALSE(window.IsRunning());
+}
+
+TEST_F(DrovemarkWindow, KeepsRollDisabledAfterAFailureUntilCancelled) {
+    Type("txtRolls", "2147483648");
+    dialogs.WillConfirm();
+    Click("btnRoll");
+    EXPECT_EQ(dialogs.TakeLog(), Log{"warning: Overflow"});
+    EXPECT_EQ(Caption("btnRoll") + Caption("btnCancel"), "Roll (disabled)Cancel");
+    EXPECT_FALSE(QApplication::overrideCursor() || window.IsRunning());
+    Click("btnCancel");
+    EXPECT_EQ(Caption("btnRoll") + Caption("btnCancel"), "RollCancel (disabled)");
 }
 
 }  // namespace

