@@ -5,7 +5,6 @@
 #include <QTreeView>
 
 #include "explorer/library_model.h"
-#include "explorer/popup.h"
 #include "tests/support/windows_fixture.h"
 
 namespace quenloft {
@@ -109,14 +108,6 @@ TEST_F(ExplorerTest, EnterRunsTheSelectedFileAndOpensAFolder) {
     EXPECT_EQ(out->Text(), "An orc.");
 }
 
-TEST_F(ExplorerTest, RunsAsOftenAsAsked) {
-    Open();
-    tree->setCurrentIndex(Row("Orcs"));
-    explorer->findChild<QLineEdit*>("txtTimes")->setText("3");
-    Button("btnRun")->click();
-    EXPECT_EQ(out->Text(), "An orc.\r\n\r\nAn orc.\r\n\r\nAn orc.");
-}
-
 TEST_F(ExplorerTest, ATableChangedOnDiskShowsItsNewContentAtTheNextClick) {
     Open();
     Press("Orcs", Qt::LeftButton);
@@ -128,16 +119,13 @@ TEST_F(ExplorerTest, ATableChangedOnDiskShowsItsNewContentAtTheNextClick) {
 TEST_F(ExplorerTest, WhileARunIsGoingOnNoSecondOneStarts) {
     folder.Write("lib/endless.spt", kEndless);
     Open();
-    bool clicked = false;
     QTimer::singleShot(0, [&] {
         Press("Orcs", Qt::LeftButton);
         Button("btnRun")->click();
-        clicked = true;
         Choose(window, "mnuAbort");
     });
     tree->setCurrentIndex(Row("endless"));
     Button("btnRun")->click();
-    EXPECT_TRUE(clicked);
     EXPECT_EQ(out->Text(), "Process Aborted!");
     EXPECT_FALSE(window.IsRunning());
 }
@@ -176,47 +164,43 @@ TEST_F(ExplorerTest, ThePopupsOfferWhatTheProgramHas) {
 
 TEST_F(ExplorerTest, ButtonsFollowTheSelection) {
     Open();
-    const auto enabled = [this] {
-        QStringList names;
+    const std::pair<QModelIndex, const char*> cases[] = {
+        {Row("Orcs"), "btnRun btnDelete btnNewDirectory btnRefresh "},
+        {Row("sub"), "btnNewDirectory btnRefresh "},
+        {QModelIndex(), "btnRefresh "}};
+    for (const auto& [row, enabled] : cases) {
+        tree->setCurrentIndex(row);
+        QString names;
         for (const char* name :
              {"btnRun", "btnRunAsNew", "btnEdit", "btnDelete", "btnNewDirectory", "btnRefresh"}) {
-            if (Button(name)->isEnabled()) {
-                names << name;
-            }
+            names += Button(name)->isEnabled() ? QString(name) + " " : QString();
         }
-        return names.join(" ").toStdString();
-    };
-    tree->setCurrentIndex(Row("Orcs"));
-    EXPECT_EQ(enabled(), "btnRun btnDelete btnNewDirectory btnRefresh");
-    tree->setCurrentIndex(Row("sub"));
-    EXPECT_EQ(enabled(), "btnNewDirectory btnRefresh");
-    tree->setCurrentIndex({});
-    EXPECT_EQ(enabled(), "btnRefresh");
+        EXPECT_EQ(names, enabled);
+    }
 }
 
 TEST_F(ExplorerTest, DeletingAsksAndPrefersTheTrash) {
     Open();
     const std::string path = folder.Path("lib/orcs.tbl");
-    const auto deleteOrcs = [this](Answer answer) {
+    const struct {
+        Answer answer;
+        bool hasTrash;
+        Log trashed;
+        bool isThere;
+    } cases[] = {{Answer::No, true, {}, true},
+                 {Answer::Yes, true, {path}, true},  // Moved, had it been a real one.
+                 {Answer::Yes, false, {path, path}, false}};
+    for (const auto& c : cases) {
+        desktop.hasTrash = c.hasTrash;
         tree->setCurrentIndex(Row("Orcs"));
-        dialogs.WillAnswer(answer);
+        dialogs.WillAnswer(c.answer);
         Button("btnDelete")->click();
         WaitUntilRead();
-    };
-    deleteOrcs(Answer::No);
-    EXPECT_EQ(dialogs.TakeLog(),
-              Log{"yes or no: Do You really want to delete Orcs (" + path + ")?"});
-    EXPECT_TRUE(std::filesystem::exists(path));
-    EXPECT_TRUE(desktop.trashed.empty());
-
-    desktop.hasTrash = true;
-    deleteOrcs(Answer::Yes);
-    EXPECT_EQ(desktop.trashed, Log{path});
-    EXPECT_TRUE(std::filesystem::exists(path)) << "what is in the trash is not deleted as well";
-
-    desktop.hasTrash = false;
-    deleteOrcs(Answer::Yes);
-    EXPECT_FALSE(std::filesystem::exists(path));
+        EXPECT_EQ(dialogs.TakeLog(),
+                  Log{"yes or no: Do You really want to delete Orcs (" + path + ")?"});
+        EXPECT_EQ(desktop.trashed, c.trashed);
+        EXPECT_EQ(std::filesystem::exists(path), c.isThere);
+    }
     EXPECT_EQ(Model().rowCount(Model().index(0, 0, {})), 1);
 }
 
@@ -268,12 +252,6 @@ TEST_F(ExplorerTest, AMissingLibraryNamesTheCure) {
     EXPECT_EQ(out->Text(), "An orc.");
 }
 
-TEST_F(ExplorerTest, WithoutALibraryPathTheExecutablesFolderIsShown) {
-    profile.WriteProfileString("Settings", "Libpath", "", profile.GetProfileFileName());
-    Open();
-    EXPECT_EQ(Model().PathOf(Model().index(0, 0, {})), folder.LibraryPath());
-}
-
 TEST_F(ExplorerTest, RefreshKeepsOpenFoldersAndTheSelection) {
     Open();
     tree->setCurrentIndex(Row("Village"));
@@ -290,21 +268,6 @@ TEST_F(ExplorerTest, ExportsTheOutputWithAFooter) {
     Press("Orcs", Qt::LeftButton);
     EXPECT_EQ(explorer->Export(),
               "An orc.\r\n\r\nFilename : " + folder.Path("lib/orcs.tbl") + FooterOfToday());
-}
-
-TEST(Popup, GivesTheKeyOfTheChosenItem) {
-    QWidget owner;
-    clsPopup popup;
-    popup.AddItem("plain", "One", 0, 0, {}, {});
-    popup.AddItem("ticked", "Two", 0, kCheckedItem, {}, {});
-    QTimer::singleShot(0, [] {
-        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-        ASSERT_TRUE(menu);
-        EXPECT_TRUE(menu->actions()[1]->isChecked());
-        menu->setActiveAction(menu->actions()[1]);
-        QTest::keyClick(menu, Qt::Key_Return);
-    });
-    EXPECT_EQ(popup.PopupMenu(owner, QPoint()), "ticked");
 }
 
 }  // namespace
