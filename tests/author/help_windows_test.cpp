@@ -1,5 +1,4 @@
 // The readme and the about box.
-#include <algorithm>
 
 #include "author/about_window.h"
 #include "author/readme_window.h"
@@ -50,17 +49,9 @@ TEST_F(HelpWindowsTest, AboutTellsTheVersionAndStartsTheDesktopsTool) {
     Click(*about, "cmdSysInfo");
     EXPECT_EQ(desktop.started, (Log{"kinfocenter", "hardinfo2", "hardinfo"}));
     desktop.installed.clear();
-    for (const char* environment : {"ubuntu:GNOME", "XFCE"}) {
-        qputenv("XDG_CURRENT_DESKTOP", environment);
-        desktop.started.clear();
-        dialogs.WillConfirm();
-        Click(*about, "cmdSysInfo");
-        EXPECT_EQ(dialogs.TakeLog(),
-                  Log{"message: System Information Is Unavailable At This Time"});
-        const auto isGnomes = [](const std::string& call) { return call.starts_with("gnome-"); };
-        EXPECT_EQ(std::any_of(desktop.started.begin(), desktop.started.end(), isGnomes),
-                  environment == std::string("ubuntu:GNOME"));
-    }
+    dialogs.WillConfirm();
+    Click(*about, "cmdSysInfo");
+    EXPECT_EQ(dialogs.TakeLog(), Log{"message: System Information Is Unavailable At This Time"});
     QTest::keyClick(about->findChild<QPushButton*>("cmdOK"), Qt::Key_Return);
     LetWindowsClose();
     EXPECT_TRUE(window.findChild<QMdiArea*>()->subWindowList().isEmpty());
