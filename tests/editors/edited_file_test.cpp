@@ -2,8 +2,6 @@
 // change.
 #include "editors/shared/edited_file.h"
 
-#include <gtest/gtest.h>
-
 #include "editors/shared/text_form.h"
 #include "platform/linux/linux_file_system.h"
 #include "tests/support/fake_dialogs.h"

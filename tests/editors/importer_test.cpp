@@ -1,7 +1,5 @@
 // The table importer: from lines to a table, and the way of the file.
 
-#include <functional>
-
 #include "editors/importer/import_text.h"
 #include "editors/importer/importer_window.h"
 #include "tests/support/windows_fixture.h"
@@ -10,10 +8,7 @@ namespace quenloft {
 namespace {
 
 TEST(TableOfLines, KeepsTheRulesOfTheTablesThatItMadeBefore) {
-    const struct {
-        const char* text;
-        const char* table;
-    } cases[] = {
+    const std::pair<const char*, const char*> cases[] = {
         {"", "T¤1\r\n"},
         {"one line", "T¤1\r\n"},
         {"a\r\nbb", "T¤2\r\n\r\n1§a\r\n2§bb"},
@@ -23,8 +18,8 @@ TEST(TableOfLines, KeepsTheRulesOfTheTablesThatItMadeBefore) {
         {"a\r\nb\r\n", "T¤3\r\n\r\n1§a\r\n2§b"},
         {"\r\n\r\nc\r\n", "T¤4\r\n\r\n1§\r\n2§\r\n3§c"},
     };
-    for (const auto& c : cases) {
-        EXPECT_EQ(TableOfLines("T", c.text), c.table) << c.text;
+    for (const auto& [text, table] : cases) {
+        EXPECT_EQ(TableOfLines("T", text), table) << text;
     }
 }
 
@@ -146,22 +141,6 @@ TEST_F(ImporterTest, AFileThatCannotBeReadOrWrittenChangesNothing) {
     EXPECT_EQ(log.front(), "warning: Errors in table " + folder.Path("missing.txt") +
                                "\r\nFile not found: " + folder.Path("missing.txt") + ".");
     EXPECT_EQ(log.back(), "warning: Path not found: " + folder.Path("missing/loot.tbl") + ".");
-}
-
-TEST_F(ImporterTest, SaysWhichLastLineBecomesNoEntry) {
-    const std::string longLine(10'000, 'x');
-    const std::string single = "A single line becomes an entry when Enter ends it.";
-    const std::pair<std::string, std::string> cases[] = {
-        {"", ""},
-        {longLine, single},
-        {"sword\n", ""},
-        {"sword\nb", "A last line of one character becomes an entry when Enter ends it."},
-        {"sword\n" + longLine, ""},
-    };
-    for (const auto& [lines, hint] : cases) {
-        text->SetText(lines);
-        EXPECT_EQ(importer->findChild<QLabel*>("lblHint")->text().toStdString(), hint);
-    }
 }
 
 }  // namespace

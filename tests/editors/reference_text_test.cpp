@@ -117,15 +117,5 @@ TEST_F(ReferenceListTest, FiltersAndOrdersByTitleAndName) {
     EXPECT_FALSE(list.IsEmpty());
 }
 
-TEST_F(ReferenceListTest, ShowsTheLastKnownTitleUntilItIsReadAnew) {
-    Table("lib/a.tbl", "Old");
-    Fill();
-    Table("lib/a.tbl", "New title");
-    list.Fill(ReferencePlace(folder.LibraryPath("lib")), false);
-    EXPECT_EQ(Rows(), "a.tbl=Old ");
-    EXPECT_TRUE(list.ReadOne());
-    EXPECT_EQ(Rows(), "a.tbl=New title ");
-}
-
 }  // namespace
 }  // namespace quenloft

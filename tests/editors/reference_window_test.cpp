@@ -109,18 +109,15 @@ TEST_F(ReferenceWindowTest, EnterChoosesNothingWhereTheFilterFindsNothing) {
 }
 
 TEST_F(ReferenceWindowTest, ListsHiddenNamesOnWishAndKeepsTheCurrentOne) {
-    EXPECT_EQ(Choose(
-                  [this] {
-                      EXPECT_EQ(List()->model()->rowCount(), 1);
-                      Click("chkDisplayHiddenFiles");
-                      EXPECT_EQ(List()->model()->rowCount(), 2);
-                      EXPECT_EQ(Current(), "Orcs");
-                      Key("lvwReference", Qt::Key_End);
-                      Click("optEveryWord");
-                      Key("lvwReference", Qt::Key_Return);
-                  },
-                  "lib/Monsters"),
-              "#~HiddeN.tbl#");
+    const auto steps = [this] {
+        Click("chkDisplayHiddenFiles");
+        EXPECT_EQ(List()->model()->rowCount(), 2);
+        EXPECT_EQ(Current(), "Orcs");
+        Key("lvwReference", Qt::Key_End);
+        Click("optEveryWord");
+        Key("lvwReference", Qt::Key_Return);
+    };
+    EXPECT_EQ(Choose(steps, "lib/Monsters"), "#~HiddeN.tbl#");
 }
 
 TEST_F(ReferenceWindowTest, StaysOnItsDrive) {
@@ -137,18 +134,15 @@ TEST_F(ReferenceWindowTest, StaysOnItsDrive) {
 
 TEST_F(ReferenceWindowTest, SaysThatAFolderAboveCannotBeShown) {
     dialogs.WillConfirm();
-    EXPECT_EQ(Choose(
-                  [this] {
-                      EXPECT_EQ(Get<QLabel>("lblHint")->text().toStdString(),
-                                "The folder cannot be shown: Path not found: " +
-                                    folder.Path("gone/sub") + ".");
-                      Click("btnUpDirectory");
-                      Click("btnUpDirectory");
-                      EXPECT_EQ(Current(), "lib");
-                      Click("btnCancel");
-                  },
-                  "gone/sub"),
-              "");
+    const auto steps = [this] {
+        EXPECT_EQ(Get<QLabel>("lblHint")->text().toStdString(),
+                  "The folder cannot be shown: Path not found: " + folder.Path("gone/sub") + ".");
+        Click("btnUpDirectory");
+        Click("btnUpDirectory");
+        EXPECT_EQ(Current(), "lib");
+        Click("btnCancel");
+    };
+    EXPECT_EQ(Choose(steps, "gone/sub"), "");
     EXPECT_EQ(dialogs.TakeLog(), Log{"warning: Failure in displaying folder content!"});
 }
 

