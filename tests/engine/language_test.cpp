@@ -4,13 +4,9 @@
 // order).
 // "{DIR}" stands for the case's folder; results are compared with LF line ends.
 #include <algorithm>
-#include <filesystem>
 #include <fstream>
-#include <gtest/gtest.h>
 #include <iterator>
 #include <sstream>
-#include <string>
-#include <vector>
 
 #include "engine/engine.h"
 #include "engine/text_helpers.h"
@@ -56,13 +52,11 @@ TEST_P(Language, Case) {
     LinuxFileSystem files;
     const std::string libraryPath = files.AbsolutePath(folder.Path());
     for (const auto& entry : fs::recursive_directory_iterator(source)) {
-        const fs::path target = folder.Path() / fs::relative(entry.path(), source);
+        const std::string name = fs::relative(entry.path(), source);
         if (entry.is_directory()) {
-            fs::create_directories(target);
+            fs::create_directories(folder.Path(name));
         } else {
-            fs::create_directories(target.parent_path());
-            std::ofstream(target, std::ios::binary)
-                << Replaced(ReadAll(entry.path()), "{DIR}", libraryPath);
+            folder.Write(name, Replaced(ReadAll(entry.path()), "{DIR}", libraryPath));
         }
     }
     const std::string next = ReadAll(source / "next.txt");

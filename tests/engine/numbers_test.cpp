@@ -34,10 +34,7 @@ TEST(Numbers, HaveFifteenDigitsAndNoTrailingZeros) {
 }
 
 TEST(Numbers, StrictReadingTakesTheWholeTextOrNothing) {
-    const struct {
-        const char* text;
-        std::optional<double> number;
-    } cases[] = {
+    const std::pair<const char*, std::optional<double>> cases[] = {
         {"12", 12},     {" \t12\r\n", 12}, {"-3", -3},    {"3-", -3},     {"+3", 3},
         {".5", 0.5},    {"5.", 5},         {"1e3", 1000}, {"1E-2", 0.01}, {"1,000", 1000},
         {"1,0,0", 100}, {"&H10", 16},      {"&o17", 15},  {"$5", 5},      {"-$5", -5},
@@ -47,24 +44,21 @@ TEST(Numbers, StrictReadingTakesTheWholeTextOrNothing) {
         {"()", {}},     {".", {}},         {"1e999", {}}, {"1.5,0", {}},  {"inf", {}},
         {"nan", {}},    {"\xD9\xA3", {}},  {"1 000", {}}, {"((5))", {}},
     };
-    for (const auto& c : cases) {
-        EXPECT_EQ(ParseNumber(c.text), c.number) << c.text;
+    for (const auto& [text, number] : cases) {
+        EXPECT_EQ(ParseNumber(text), number) << text;
     }
     EXPECT_THROW(TextToNumber("12abc"), Failure);
     EXPECT_THROW(TextToInt32("2147483648"), Failure);
 }
 
 TEST(Numbers, PrefixIsTheLongestLeadingNumber) {
-    const struct {
-        const char* text;
-        double number;
-    } cases[] = {
+    const std::pair<const char*, double> cases[] = {
         {"12abc", 12}, {"  3 orcs", 3}, {"-4x", -4},  {"+4", 4},   {".5.5", 0.5}, {"1e3x", 1000},
         {"1ex", 1},    {"1e+", 1},      {"1,000", 1}, {"$5", 0},   {"", 0},       {"-", 0},
         {"abc", 0},    {"- 5", 0},      {"5^3", 5},   {"0x10", 0}, {"&H10", 0},
     };
-    for (const auto& c : cases) {
-        EXPECT_EQ(NumericPrefix(c.text), c.number) << c.text;
+    for (const auto& [text, number] : cases) {
+        EXPECT_EQ(NumericPrefix(text), number) << text;
     }
     EXPECT_EQ(NumericPrefix("1e999"), std::numeric_limits<double>::infinity());
 }
