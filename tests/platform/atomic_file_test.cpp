@@ -2,10 +2,8 @@
 #include "platform/linux/atomic_file.h"
 
 #include <csignal>
-#include <filesystem>
 #include <gtest/gtest.h>
 #include <iterator>
-#include <string>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -140,10 +138,8 @@ TEST(AtomicFileTest, WritesThroughLinksAndKeepsThem) {
     fs::create_symlink("store/target.tbl", folder.Path("inner.tbl"));
     fs::create_symlink(folder.Path("inner.tbl"), folder.Path("outer.tbl"));
     fs::create_symlink("store/fresh.tbl", folder.Path("loose.tbl"));
-
     WriteFileAtomically(folder.Path("outer.tbl"), "new");
     WriteFileAtomically(folder.Path("loose.tbl"), "made");
-
     EXPECT_EQ(folder.Read("store/target.tbl"), "new");
     EXPECT_EQ(folder.Read("store/fresh.tbl"), "made");
     for (const char* link : {"inner.tbl", "outer.tbl", "loose.tbl"}) {
