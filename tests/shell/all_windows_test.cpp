@@ -4,16 +4,12 @@
 #include <QAbstractSpinBox>
 #include <QAccessible>
 #include <QComboBox>
-#include <QLineEdit>
-#include <QMdiSubWindow>
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QShortcut>
 #include <QTextEdit>
 #include <map>
 
-#include "platform/qt/qt_text.h"
-#include "shell/child_window.h"
 #include "shell/settings_dialog.h"
 #include "shell/window_kinds.h"
 #include "tests/support/windows_fixture.h"

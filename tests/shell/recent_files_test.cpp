@@ -1,12 +1,8 @@
 // The files that were opened last, and the files that are handed to the program.
-#include <QDropEvent>
 #include <QMenu>
-#include <QMimeData>
-#include <QUrl>
 
 #include "generators/list_single_window.h"
 #include "generators/script_window.h"
-#include "shell/form_names.h"
 #include "shell/sample_library.h"
 #include "tests/support/windows_fixture.h"
 
@@ -16,15 +12,8 @@ namespace {
 class Documents : public WindowsFixture {
   protected:
     Documents() {
-        folder.Write("orcs.tbl",
-                     "Orcs\xA4"
-                     "1\r\n1\xA7"
-                     "An orc.\r\n");
+        folder.WriteTable("orcs.tbl", "Orcs", "An orc.");
         folder.Write("day.SPT", "A day.\r\n");
-    }
-    template <typename Window>
-    static ChildWindow* Make(Workspace& workspace) {
-        return new Window(workspace);
     }
     std::vector<WindowKind> Kinds() {
         return {{form::kSingleList, Instances::Many, Make<frmListSingle>},
@@ -50,25 +39,15 @@ TEST_F(Documents, OpenInTheWindowThatFitsAndRun) {
     EXPECT_NE(window.findChild<frmScript*>()->Export().find("A day."), std::string::npos);
     dialogs.WillConfirm();
     window.OpenDocument(folder.Path("a.png"));
-    EXPECT_EQ(dialogs.TakeLog(),
-              std::vector<std::string>{"warning: " + folder.Path("a.png") +
-                                       " cannot be opened: it is neither a table (*.tbl) nor a "
-                                       "script (*.spt) nor notes (*.rtf)."});
+    EXPECT_EQ(dialogs.TakeLog(), Log{"warning: " + folder.Path("a.png") +
+                                     " cannot be opened: it is neither a table (*.tbl) nor a "
+                                     "script (*.spt) nor notes (*.rtf)."});
 }
 
 TEST_F(Documents, OpenWhenTheyAreDroppedOnTheMainWindow) {
     frmMain window(Services(), Kinds());
     ShowMainWindow(window);
-    QMimeData data;
-    data.setUrls({QUrl::fromLocalFile(QString::fromStdString(folder.Path("orcs.tbl"))),
-                  QUrl::fromLocalFile(QString::fromStdString(folder.Path("day.SPT")))});
-    QDragEnterEvent enter({9, 9}, Qt::MoveAction | Qt::CopyAction, &data, Qt::LeftButton, {});
-    enter.ignore();
-    QCoreApplication::sendEvent(&window, &enter);
-    ASSERT_TRUE(enter.isAccepted());
-    QDropEvent drop(QPointF(9, 9), Qt::MoveAction | Qt::CopyAction, &data, Qt::LeftButton, {});
-    QCoreApplication::sendEvent(&window, &drop);
-    EXPECT_EQ(drop.dropAction(), Qt::CopyAction);
+    EXPECT_TRUE(Drop(window, {UrlOf("orcs.tbl"), UrlOf("day.SPT")}));
     QCoreApplication::processEvents();
     EXPECT_TRUE(window.findChild<frmListSingle*>());
     EXPECT_TRUE(window.findChild<frmScript*>());
@@ -99,15 +78,9 @@ TEST_F(Documents, AreTheRecentFilesAfterARestart) {
 
 class FirstStart : public WindowsFixture {
   protected:
-    FirstStart() {
-        folder.Write("share/library/Places/inn.tbl",
-                     "Inn\xA4"
-                     "1\r\n");
-    }
+    FirstStart() { folder.Write("share/library/Places/inn.tbl", "An inn"); }
 
-    std::string Libpath() {
-        return profile.ReadProfileString("Settings", "Libpath", "", profile.GetProfileFileName());
-    }
+    std::string Libpath() { return Setting("Settings", "Libpath"); }
 };
 
 TEST_F(FirstStart, CopiesTheSampleLibraryWhereTheUserWantsIt) {
@@ -116,9 +89,7 @@ TEST_F(FirstStart, CopiesTheSampleLibraryWhereTheUserWantsIt) {
     dialogs.WillGive(folder.Path("home"));
     OfferSampleLibrary(Services(), folder.Path("share"));
     EXPECT_EQ(Libpath(), folder.Path("home/Quenloft library 2"));
-    EXPECT_EQ(folder.Read("home/Quenloft library 2/Places/inn.tbl"),
-              "Inn\xA4"
-              "1\r\n");
+    EXPECT_EQ(folder.Read("home/Quenloft library 2/Places/inn.tbl"), "An inn");
     OfferSampleLibrary(Services(), folder.Path("share"));  // Never a second time.
     dialogs.TakeLog();
 }
