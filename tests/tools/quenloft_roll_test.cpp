@@ -2,7 +2,6 @@
 #include <array>
 #include <cstdio>
 #include <gtest/gtest.h>
-#include <string>
 #include <sys/wait.h>
 
 #include "tests/support/temp_folder.h"
