@@ -54,6 +54,7 @@ class AuthorWindowTest : public WindowsFixture {
         return empty.Text().paragraphs.front().endFormat;
     }
     std::string Plain() const { return box->toPlainText().toStdString(); }
+    std::string Title() const { return TitleOf(*author); }
     bool IsChecked(const char* name) { return author->findChild<QToolButton*>(name)->isChecked(); }
 
     frmMain window{Services(), {{form::kAuthor, Instances::Many, Make<frmAuthor>}}};
@@ -63,10 +64,10 @@ class AuthorWindowTest : public WindowsFixture {
 
 TEST_F(AuthorWindowTest, NotesAreSavedAndOpenedAgain) {
     Type("a");
-    EXPECT_EQ(author->windowTitle(), "Author Area*");
+    EXPECT_EQ(Title(), "Author Area*");
     dialogs.WillGive(folder.Path("new.rtf"));
     Click("btnSave");
-    EXPECT_EQ(author->windowTitle(), "Author Area new.rtf");
+    EXPECT_EQ(Title(), "Author Area new.rtf");
     QTest::keyClick(box, Qt::Key_B, Qt::ControlModifier);
     Type("b");
     QTest::keyClick(box, Qt::Key_S, Qt::ControlModifier);
@@ -141,7 +142,7 @@ TEST_F(AuthorWindowTest, CancellingLeavesTextAndMarkAsTheyWere) {
     EXPECT_EQ(dialogs.TakeLog().back(),
               "warning: File not found: " + folder.Path("none.rtf") + ".");
     EXPECT_EQ(Plain(), "x");
-    EXPECT_EQ(author->windowTitle(), "Author Area*");
+    EXPECT_EQ(Title(), "Author Area*");
     dialogs.WillAnswer(Answer::Cancel);
     EXPECT_FALSE(author->AskToSave());
 }
@@ -171,7 +172,7 @@ TEST_F(AuthorWindowTest, AsksBeforeASaveDestroysSomething) {
         Click("btnSave");
         EXPECT_EQ(dialogs.TakeLog(), Log{"yes or no: The file " + path + question});
         EXPECT_EQ(folder.Read("asked.rtf"), onDisk);
-        EXPECT_EQ(author->windowTitle(), "Author Area asked.rtf*");
+        EXPECT_EQ(Title(), "Author Area asked.rtf*");
         dialogs.WillAnswer(Answer::Yes);
         Click("btnSave");
         Type("y");

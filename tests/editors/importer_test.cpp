@@ -38,12 +38,7 @@ class ImporterTest : public WindowsFixture {
         text->moveCursor(QTextCursor::End);
         text->insertPlainText(lines);
     }
-    /// The caption, with the mark of change as a star.
-    std::string Caption() const {
-        return importer->windowTitle()
-            .replace("[*]", importer->isWindowModified() ? "*" : "")
-            .toStdString();
-    }
+    std::string Caption() const { return TitleOf(*importer); }
 
     frmMain window{Services(), Kinds()};
     ChildWindow* importer = nullptr;

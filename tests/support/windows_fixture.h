@@ -45,6 +45,11 @@ class WindowsFixture : public testing::Test, protected TempProgram {
     static void Click(const QWidget& window, const char* button) {
         window.findChild<QAbstractButton*>(button)->click();
     }
+    /// With the mark of change as a star.
+    static std::string TitleOf(const QWidget& window) {
+        const QString mark = window.isWindowModified() ? "*" : "";
+        return window.windowTitle().replace("[*]", mark).toStdString();
+    }
     /// Lets what was put off until the event loop's next turn happen, closing among it.
     static void LetWindowsClose() {
         QCoreApplication::processEvents();
