@@ -137,6 +137,16 @@ TEST_F(ProbabilityWindow, AppendsAReportForEachRun) {
     EXPECT_EQ(child->Export(), "");
 }
 
+TEST_F(ProbabilityWindow, RollsTheDiceOfItsBoxes) {
+    const int faces[] = {2, 4, 6, 8, 10, 12, 20};
+    for (const int count : {1, 2, 3, 4, 5, 6, 7}) {
+        Type(qPrintable(QString("txt%1").arg(faces[count - 1])), QString::number(count));
+    }
+    Type("txtRolls", "1");
+    Click("cmdRoll");
+    EXPECT_EQ(Report().find("1D2+2D4+3D6+4D8+5D10+6D12+7D20 rolled 1 times"), 61U) << Report();
+}
+
 TEST_F(ProbabilityWindow, RefusesTextThatIsNoNumberAndStaysUsable) {
     for (const char* box : {"txt6", "txt20", "txtRolls"}) {
         Find<QLineEdit>(box)->setText("12x");
