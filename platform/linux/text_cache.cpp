@@ -21,9 +21,11 @@ void TextCache::Refresh(Slot& slot, const FileStamp& now) {
         return;
     }
     const FileDescriptor file = OpenForReading(slot.diskPath);
-    slot.stamp = StampOf(file.Number());
+    const FileStamp stamp = StampOf(file.Number());
     auto lines = std::make_shared<const LoadedTextFile>(ReadToEnd(file.Number(), slot.diskPath),
                                                         ShownLibraryPath(slot.diskPath));
+    // Only now: after a read that failed, the new stamp would prove the old lines.
+    slot.stamp = stamp;
     if (slot.lines && slot.lines->HasSameLines(*lines)) {
         return;
     }
