@@ -13,6 +13,7 @@ RichText NotesFile::Read(const std::string& path) {
     RtfContent content = isRtf ? ReadRtf(bytes) : ReadPlainText(bytes);
     path_ = files_.NativePath(path);
     base_ = Fingerprint(bytes);
+    attempted_.clear();
     losses_ = std::move(content.losses);
     // An empty file becomes what is saved into it.
     isPlainText_ = !isRtf && !bytes.empty();
@@ -33,10 +34,11 @@ void NotesFile::Resume(const std::string& path, const std::string& base) {
 
 void NotesFile::Write(const std::string& path, const RichText& text) {
     const std::string bytes = WriteRtf(text);
+    attempted_ = Fingerprint(bytes);
     files_.WriteBytes(path, bytes);
     files_.LookAgain();
     path_ = files_.NativePath(path);
-    base_ = Fingerprint(bytes);
+    base_ = attempted_;
     losses_.clear();
     isPlainText_ = false;
 }
@@ -63,7 +65,8 @@ std::vector<std::string> NotesFile::QuestionsBefore(const std::string& path) con
 
 bool NotesFile::ChangedOnDisk() const {
     try {
-        return Fingerprint(files_.ReadBytes(path_)) != base_;
+        const std::string now = Fingerprint(files_.ReadBytes(path_));
+        return now != base_ && now != attempted_;
     } catch (const FileError&) {
         return false;  // It is gone, or writing will tell what is wrong with it.
     }

@@ -40,6 +40,8 @@ class NotesFile {
     FileSystem& files_;
     std::string path_;
     std::string base_;
+    /// Of what was to be written last. All of it may stand there though it failed.
+    std::string attempted_;
     std::vector<Loss> losses_;
     bool isPlainText_ = false;
 };

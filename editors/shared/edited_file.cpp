@@ -41,6 +41,7 @@ void EditedFile::Forget() {
     path_.clear();
     bytes_.clear();
     base_.clear();
+    attempted_.clear();
     encoding_ = TextEncoding::Windows1252;
 }
 
@@ -71,7 +72,8 @@ bool EditedFile::MayWriteOver(const std::string& path) {
         return MayReplace(files_, dialogs_, path);
     }
     try {
-        return Fingerprint(files_.ReadBytes(path)) == base_ ||
+        const std::string onDisk = Fingerprint(files_.ReadBytes(path));
+        return onDisk == base_ || onDisk == attempted_ ||
                dialogs_.AskYesNo("The file " + nativePath +
                                  " was changed by another program since it was read. "
                                  "Save over these changes?") == Answer::Yes;
@@ -90,6 +92,7 @@ void EditedFile::Know(const std::string& path, std::string bytes) {
     path_ = files_.NativePath(path);
     bytes_ = std::move(bytes);
     base_ = Fingerprint(bytes_);
+    attempted_.clear();
     encoding_ = DetectEncoding(bytes_);
 }
 
@@ -100,6 +103,7 @@ bool EditedFile::Write(const std::string& path, std::string bytes, Former former
         }
         files_.WriteBytes(path, bytes);
     } catch (const FileError& error) {
+        attempted_ = Fingerprint(bytes);
         dialogs_.ShowMessage(std::string(error.what()) + ".", MessageIcon::Warning);
         return false;
     }
@@ -109,10 +113,15 @@ bool EditedFile::Write(const std::string& path, std::string bytes, Former former
 }
 
 void EditedFile::KeepFormer(const std::string& path) {
-    if (!files_.FileExists(path)) {
+    std::string former;
+    try {
+        former = files_.ReadBytes(path);
+    } catch (const FileError& error) {
+        if (error.GetKind() != FileError::Kind::FileNotFound) {
+            throw;
+        }
         return;
     }
-    const std::string former = files_.ReadBytes(path);
     const std::string name = files_.NativePath(path) + "~";
     std::string kept = name;
     // What was kept before is what its author wrote: it stays.

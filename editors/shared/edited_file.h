@@ -62,6 +62,8 @@ class EditedFile {
     std::string path_;
     std::string bytes_;  // What the next content takes unchanged lines from.
     std::string base_;
+    /// Of what it failed to write after that. All of it may stand there nevertheless.
+    std::string attempted_;
     TextEncoding encoding_ = TextEncoding::Windows1252;
 };
 

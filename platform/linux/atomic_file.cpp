@@ -165,7 +165,7 @@ void FlushFolder(const std::string& folder, const std::string& path) {
     FileDescriptor file(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     // A folder may be open for writing but not for reading; then there is no way to flush it.
     if (file.IsOpen() && fsync(file.Number()) != 0 && errno != EINVAL) {
-        Fail(path);
+        throw MayNotLast(errno, ShownNativePath(path));
     }
 }
 

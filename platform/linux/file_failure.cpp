@@ -61,4 +61,9 @@ FileError CouldNotBeSaved(int error, const std::string& shownPath) {
     return {KindOf(error), shownPath + " could not be saved: " + ReasonOf(error)};
 }
 
+FileError MayNotLast(int error, const std::string& shownPath) {
+    return {KindOf(error),
+            shownPath + " was saved, but may not outlast a power failure: " + ReasonOf(error)};
+}
+
 }  // namespace quenloft

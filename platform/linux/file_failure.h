@@ -14,5 +14,7 @@ FileError IsNoRegularFile(const std::string& shownPath);
 /// `error` is an errno.
 FileError SystemRefused(int error, const std::string& shownPath);
 FileError CouldNotBeSaved(int error, const std::string& shownPath);
+/// It stands there, but the disk did not confirm it.
+FileError MayNotLast(int error, const std::string& shownPath);
 
 }  // namespace quenloft
