@@ -1,5 +1,8 @@
 #include "generators/slot_page.h"
 
+#include <utility>
+#include <vector>
+
 #include "engine/engine.h"
 #include "generators/working_folder.h"
 #include "platform/profile_file.h"
@@ -45,16 +48,17 @@ void SlotPage::Restore(Engine& engine, ProfileFile& profile) {
 
 void SlotPage::Save(FileSystem& files, ProfileFile& profile) const {
     const std::string file = profile.GetProfileFileName();
+    std::vector<ProfileEntry> entries;
     for (int index = 0; index < kSlots; ++index) {
         if (slots_[index].IsEmpty()) {
             continue;
         }
-        const std::string path = files.NativePath(slots_[index].path);
+        std::string path = files.NativePath(slots_[index].path);
         if (profile.ReadProfileString(kSection, KeyOf(index), "", file) != path) {
-            // A profile that cannot be written costs the user no more than these slots.
-            profile.WriteProfileString(kSection, KeyOf(index), path, file);
+            entries.push_back({kSection, KeyOf(index), std::move(path)});
         }
     }
+    profile.WriteProfileStrings(entries, file);
 }
 
 }  // namespace quenloft

@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QStandardPaths>
 #include <clocale>
+#include <csignal>
 #include <filesystem>
 #include <iostream>
 
@@ -17,6 +18,7 @@
 #include "platform/qt/qt_dialogs.h"
 #include "platform/qt/qt_printer.h"
 #include "shell/main_window.h"
+#include "shell/profile_failure.h"
 #include "shell/program_icon.h"
 #include "shell/qt_engine_host.h"
 #include "shell/recovery/offer_recovery.h"
@@ -38,10 +40,18 @@ std::string DocumentPath(const char* argument) {
     return error ? std::string(argument) : quenloft::ShownLibraryPath(path.string());
 }
 
+/// Past a limit on file sizes, and where nobody reads what a toolkit has to say, the system would
+/// end the program with all that is unsaved. The calls that wrote tell of it instead.
+void OutliveFailedWrites() {
+    std::signal(SIGXFSZ, SIG_IGN);
+    std::signal(SIGPIPE, SIG_IGN);
+}
+
 }  // namespace
 
 int main(int argc, char* argv[]) {
     using namespace quenloft;
+    OutliveFailedWrites();
     QApplication application(argc, argv);  // Takes its own arguments away.
     if (argc > 2) {
         std::cerr << "usage: quenloft [FILE]\n";
@@ -58,9 +68,12 @@ int main(int argc, char* argv[]) {
         QFile::encodeName(QApplication::applicationFilePath()).toStdString();
 
     LinuxFileSystem files;
-    LinuxProfileFile profile(files, executable, ConfigurationFolder());
-    SystemRandomSource random;
     QtDialogs dialogs;
+    ProfileFailure profileFailure(dialogs);
+    LinuxProfileFile profile(
+        files, executable, ConfigurationFolder(),
+        [&profileFailure](const std::string& sentence) { profileFailure.Tell(sentence); });
+    SystemRandomSource random;
     QtClipboard clipboard;
     QtPrinter printer;
     QtDesktop desktop;

@@ -36,13 +36,14 @@ void RecentFiles::Add(const std::string& path) {
 
 void RecentFiles::Save() {
     const std::string file = profile_.GetProfileFileName();
+    std::vector<ProfileEntry> entries;
     for (std::size_t i = 0; i < kMost; ++i) {
-        const std::string path = i < paths_.size() ? paths_[i] : std::string();
-        const std::string key = KeyOf(i);
-        if (path != profile_.ReadProfileString(kSection, key, "", file)) {
-            profile_.WriteProfileString(kSection, key, path, file);
+        std::string path = i < paths_.size() ? paths_[i] : std::string();
+        if (path != profile_.ReadProfileString(kSection, KeyOf(i), "", file)) {
+            entries.push_back({kSection, KeyOf(i), std::move(path)});
         }
     }
+    profile_.WriteProfileStrings(entries, file);
 }
 
 }  // namespace quenloft

@@ -51,16 +51,18 @@ std::optional<std::string> Copy(const ServiceSet& services, const std::string& s
     if (!folder) {
         return std::nullopt;
     }
+    std::string target = NewFolderIn(services.files, *folder);
     try {
-        std::string target = NewFolderIn(services.files, *folder);
         CopyFolder(services.files, sample, target);
         return target;
     } catch (const FileError& error) {
-        services.dialogs.ShowMessage("The sample library could not be copied. " +
-                                         std::string(error.what()) +
-                                         ".\r\nIt is shown where it is installed; you can choose "
-                                         "another library under File, Settings.",
-                                     MessageIcon::Warning);
+        const bool isPartThere = services.files.FolderExists(target);
+        services.dialogs.ShowMessage(
+            "The sample library could not be copied. " + std::string(error.what()) + "." +
+                (isPartThere ? " Only a part of it lies in " + target + "." : "") +
+                "\r\nIt is shown where it is installed; you can choose another library under File, "
+                "Settings.",
+            MessageIcon::Warning);
         return std::nullopt;
     }
 }
@@ -74,12 +76,7 @@ void OfferSampleLibrary(const ServiceSet& services, const std::string& sharedFol
         return;
     }
     const std::string sample = sharedFolder + "/library";
-    if (!profile.WriteProfileString(kSection, kKey, Copy(services, sample).value_or(sample),
-                                    file)) {
-        services.dialogs.ShowMessage("The settings cannot be kept: " +
-                                         services.files.NativePath(file) + " cannot be written.",
-                                     MessageIcon::Warning);
-    }
+    profile.WriteProfileString(kSection, kKey, Copy(services, sample).value_or(sample), file);
 }
 
 }  // namespace quenloft

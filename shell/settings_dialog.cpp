@@ -66,13 +66,7 @@ void frmSettings::ChooseFont() {
 }
 
 void frmSettings::SaveAndClose() {
-    if (!WriteProfile()) {
-        services_.dialogs.ShowMessage(
-            "The settings could not be saved in " +
-                services_.files.NativePath(services_.profile.GetProfileFileName()) +
-                ". They hold until the program ends.",
-            MessageIcon::Warning);
-    }
+    WriteProfile();
     if (TakeOver()) {
         accept();
     }
@@ -91,12 +85,8 @@ void frmSettings::ShowSettings() {
     ui_->chkUseFontForLists->setChecked(fonts_.UseFontForLists);
 }
 
-bool frmSettings::WriteProfile() {
-    const struct {
-        const char* section;
-        const char* key;
-        std::string value;
-    } entries[] = {
+void frmSettings::WriteProfile() {
+    const ProfileEntry entries[] = {
         {"Settings", "Libpath", FromQt(ui_->txtLibPath->text())},
         {"Font", "FontName", FromQt(ui_->txtFontName->text())},
         {"Font", "FontSize", FromQt(ui_->txtFontSize->text())},
@@ -107,13 +97,7 @@ bool frmSettings::WriteProfile() {
         {"Font", "Output", State(ui_->chkUseFontForOutput)},
         {"Font", "Lists", State(ui_->chkUseFontForLists)},
     };
-    bool written = true;
-    for (const auto& entry : entries) {
-        written = services_.profile.WriteProfileString(entry.section, entry.key, entry.value,
-                                                       services_.profile.GetProfileFileName()) &&
-                  written;
-    }
-    return written;
+    services_.profile.WriteProfileStrings(entries, services_.profile.GetProfileFileName());
 }
 
 bool frmSettings::TakeOver() {

@@ -28,7 +28,7 @@ class frmSettings : public QDialog {
     void SaveAndClose();
 
     void ShowSettings();
-    bool WriteProfile();
+    void WriteProfile();
     bool TakeOver();
 
     const ServiceSet services_;

@@ -55,13 +55,14 @@ void QuickTables::Restore(Engine& engine, ProfileFile& profile, const std::strin
 
 void QuickTables::Save(ProfileFile& profile) const {
     const std::string file = profile.GetProfileFileName();
+    std::vector<ProfileEntry> entries;
     for (int index = 0; index < kSlots; ++index) {
         const std::string& name = At(index).name;
         if (!name.empty() && profile.ReadProfileString(kSection, KeyOf(index), "", file) != name) {
-            // A profile that cannot be written costs the user no more than these slots.
-            profile.WriteProfileString(kSection, KeyOf(index), name, file);
+            entries.push_back({kSection, KeyOf(index), name});
         }
     }
+    profile.WriteProfileStrings(entries, file);
 }
 
 void QuickTables::ReadTitles(Engine& engine, const std::string& folder,

@@ -1,5 +1,6 @@
 #include "platform/linux/linux_profile_file.h"
 
+#include <cerrno>
 #include <fcntl.h>
 #include <filesystem>
 #include <optional>
@@ -17,9 +18,10 @@ namespace {
 
 constexpr std::string_view kExtension = ".INI";
 
-/// Files can be made and replaced in the folder.
+/// Files can be made and replaced in the folder. A disk that fails refuses nothing: the settings
+/// stay where they are, and writing them tells.
 bool CanBeWrittenTo(const std::string& folder) {
-    return faccessat(AT_FDCWD, folder.c_str(), W_OK | X_OK, AT_EACCESS) == 0;
+    return faccessat(AT_FDCWD, folder.c_str(), W_OK | X_OK, AT_EACCESS) == 0 || errno == EIO;
 }
 
 std::string CutToValue(std::string_view text) {
@@ -29,10 +31,12 @@ std::string CutToValue(std::string_view text) {
 }  // namespace
 
 LinuxProfileFile::LinuxProfileFile(FileSystem& files, std::string executablePath,
-                                   std::string configurationFolder)
+                                   std::string configurationFolder,
+                                   std::function<void(const std::string& sentence)> tellFailure)
     : files_(files),
       executablePath_(std::move(executablePath)),
-      configurationFolder_(std::move(configurationFolder)) {}
+      configurationFolder_(std::move(configurationFolder)),
+      tellFailure_(std::move(tellFailure)) {}
 
 std::string LinuxProfileFile::GetApplicationBaseName() {
     const std::filesystem::path executable(executablePath_);
@@ -81,33 +85,52 @@ std::string LinuxProfileFile::ReadProfileKeyList(std::string_view file, std::str
     return std::string(FirstCharacters(keys, kCutKeyList));
 }
 
-bool LinuxProfileFile::WriteProfileString(std::string_view section, std::string_view key,
-                                          std::string_view value, std::string_view file) {
+bool LinuxProfileFile::WriteProfileStrings(std::span<const ProfileEntry> entries,
+                                           std::string_view file) {
+    if (entries.empty()) {
+        return true;
+    }
     files_.LookAgain();
-    // A file that is there but cannot be read must not be taken for an empty one.
-    std::string bytes;
     try {
-        bytes = files_.ReadBytes(file);
-    } catch (const FileError& error) {
-        if (files_.FileExists(file) || error.GetKind() == FileError::Kind::PermissionDenied) {
-            return false;
+        const std::string bytes = ReadToChange(file);
+        const std::string changed = WithEntries(bytes, entries, file);
+        // The windows write all their settings when they close: most of them are as they were.
+        if (changed != bytes) {
+            files_.WriteBytes(file, changed);
         }
-        MakeFolderFor(file);
-    }
-    const std::optional<std::string> changed = ReplaceProfileValue(bytes, section, key, value);
-    if (!changed) {
+        return true;
+    } catch (const FileError& error) {
+        tellFailure_(error.what());
         return false;
     }
-    // The windows write all their settings when they close: most of them are as they were.
-    if (*changed == bytes) {
-        return true;
-    }
+}
+
+std::string LinuxProfileFile::ReadToChange(std::string_view file) {
     try {
-        files_.WriteBytes(file, *changed);
-        return true;
-    } catch (const FileError&) {
-        return false;
+        return files_.ReadBytes(file);
+    } catch (const FileError& error) {
+        // A file that is there but cannot be read must not be taken for an empty one.
+        if (error.GetKind() != FileError::Kind::FileNotFound &&
+            error.GetKind() != FileError::Kind::PathNotFound) {
+            throw;
+        }
     }
+    MakeFolderFor(file);
+    return {};
+}
+
+std::string LinuxProfileFile::WithEntries(std::string bytes, std::span<const ProfileEntry> entries,
+                                          std::string_view file) {
+    for (const ProfileEntry& entry : entries) {
+        auto changed = ReplaceProfileValue(bytes, entry.section, entry.key, entry.value);
+        if (!changed) {
+            throw FileError(FileError::Kind::Other, files_.NativePath(file) +
+                                                        " cannot hold the setting \"" + entry.key +
+                                                        "\" with this value");
+        }
+        bytes = std::move(*changed);
+    }
+    return bytes;
 }
 
 /// The configuration folder does not exist before the program's first settings do.

@@ -8,6 +8,7 @@
 #include "platform/linux/linux_file_system.h"
 #include "platform/linux/linux_profile_file.h"
 #include "platform/linux/system_random_source.h"
+#include "shell/profile_failure.h"
 #include "shell/qt_engine_host.h"
 #include "shell/service_set.h"
 #include "tests/support/fake_devices.h"
@@ -19,7 +20,11 @@ namespace quenloft {
 struct ProgramParts {
     /// The profile is `folder`/quenloft.INI; `user` answers the dialogs.
     ProgramParts(const std::string& folder, Dialogs& user)
-        : dialogsOfUser(user), profile(files, folder + "/quenloft", folder + "/config") {}
+        : dialogsOfUser(user),
+          profile(files, folder + "/quenloft", folder + "/config",
+                  [this](const std::string& sentence) { profileFailure.Tell(sentence); }) {}
+    ProgramParts(const ProgramParts&) = delete;
+    ProgramParts& operator=(const ProgramParts&) = delete;
 
     ServiceSet Services() {
         return {engine, host, files, profile, dialogsOfUser, clipboard, printer, desktop};
@@ -27,6 +32,7 @@ struct ProgramParts {
 
     Dialogs& dialogsOfUser;
     LinuxFileSystem files;
+    ProfileFailure profileFailure{dialogsOfUser};
     LinuxProfileFile profile;
     SystemRandomSource random;
     FakeClipboard clipboard;
