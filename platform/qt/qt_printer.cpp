@@ -2,13 +2,17 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QApplication>
+#include <QDir>
 #include <QFile>
 #include <QPainter>
 #include <QPrintDialog>
+#include <QTemporaryDir>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
 
+#include "platform/file_system.h"
+#include "platform/linux/atomic_file.h"
 #include "platform/qt/qt_text.h"
 
 namespace quenloft {
@@ -20,6 +24,7 @@ constexpr double kFontPoints = 10;
 constexpr double kListIndent = 24;
 // The line of the page number, and the space above it.
 constexpr double kFootLines = 2;
+const std::string kFailure = "The text could not be printed on ";
 
 void SetUpDocument(QTextDocument& document, QPrinter& printer) {
     QFont font = QApplication::font();
@@ -66,11 +71,9 @@ void DrawPage(QPainter& painter, QTextDocument& document, int page) {
 }
 
 // The printing system may stop taking data without a word; a PDF that is whole ends with its mark.
-bool IsWholePdf(const QString& path) {
-    QFile file(path);
-    constexpr qint64 kTail = 32;
-    return file.open(QIODevice::ReadOnly) && file.seek(qMax<qint64>(0, file.size() - kTail)) &&
-           file.readAll().contains("%%EOF");
+bool IsWholePdf(const QByteArray& pdf) {
+    constexpr int kTail = 32;
+    return pdf.right(kTail).contains("%%EOF");
 }
 
 }  // namespace
@@ -106,18 +109,40 @@ std::string QtPrinter::Print(const std::function<void(QTextDocument& document)>&
     if (!printer_ || (toFile && printer_->outputFileName().isEmpty())) {
         return "Nothing was printed: no printer is set up. Choose \"Print to File (PDF)\" instead.";
     }
-    const std::string target =
-        FromQt(toFile ? printer_->outputFileName() : printer_->printerName());
-    const std::string failure = "The text could not be printed on " + target;
-    if (toFile) {
-        QFile file(printer_->outputFileName());
-        if (!file.open(QIODevice::WriteOnly)) {
-            return failure + ": " + FromQt(file.errorString()) + ".";
-        }
-    }
     QTextDocument document;
     SetUpDocument(document, *printer_);
     fill(document);
+    return toFile ? PrintToFile(document)
+                  : Draw(document, kFailure + FromQt(printer_->printerName()));
+}
+
+// By way of a file of its own: what stood under the chosen name before stays until the new one is
+// whole.
+std::string QtPrinter::PrintToFile(QTextDocument& document) {
+    const QString target = printer_->outputFileName();
+    const QTemporaryDir folder;
+    const QString draft = folder.filePath(QStringLiteral("print.pdf"));
+    printer_->setOutputFileName(draft);
+    std::string failure = Draw(document, kFailure + FromQt(target));
+    printer_->setOutputFileName(target);
+    if (!failure.empty()) {
+        return failure;
+    }
+    QFile file(draft);
+    const QByteArray pdf = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    if (!IsWholePdf(pdf)) {
+        return kFailure + FromQt(target) + ": there is no room for it in " +
+               FromQt(QDir::tempPath()) + ".";
+    }
+    try {
+        WriteFileAtomically(QFile::encodeName(target).toStdString(), pdf.toStdString());
+    } catch (const FileError& error) {
+        return std::string("The text could not be printed: ") + error.what() + ".";
+    }
+    return {};
+}
+
+std::string QtPrinter::Draw(QTextDocument& document, const std::string& failure) {
     QPainter painter;
     if (!painter.begin(printer_.get())) {
         return failure + ": it does not accept print jobs.";
@@ -136,9 +161,6 @@ std::string QtPrinter::Print(const std::function<void(QTextDocument& document)>&
     painter.end();
     if (printer_->printerState() == QPrinter::Error) {
         return failure + ": the printing system reports an error.";
-    }
-    if (toFile && !IsWholePdf(printer_->outputFileName())) {
-        return failure + ": the file was not written whole. Is the disk full?";
     }
     return {};
 }

@@ -27,6 +27,9 @@ class QtPrinter : public Printer {
 
   private:
     std::string Print(const std::function<void(QTextDocument& document)>& fill);
+    std::string PrintToFile(QTextDocument& document);
+    /// Onto the printer as it is set up; a failure begins with `failure`.
+    std::string Draw(QTextDocument& document, const std::string& failure);
 
     PrinterSetUp setUp_;
     std::unique_ptr<QPrinter> printer_;  // Made when the user first prints.

@@ -89,8 +89,8 @@ TEST_F(QtPrinterTest, SaysWhyNothingWasPrinted) {
     EXPECT_EQ(QtPrinter().PrintText("x"), noPrinter);
     EXPECT_EQ(Print("x", ""), noPrinter);
     const std::string unreachable = folder.Path("missing/out.pdf");
-    EXPECT_EQ(Print("x", unreachable),
-              "The text could not be printed on " + unreachable + ": No such file or directory.");
+    EXPECT_EQ(Print("x", unreachable), "The text could not be printed: " + unreachable +
+                                           " could not be saved: No such file or directory.");
 }
 
 }  // namespace
