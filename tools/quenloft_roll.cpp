@@ -1,10 +1,12 @@
 // quenloft-roll [-n TIMES] FILE: rolls a table or runs a script in a terminal.
+#include <cerrno>
 #include <charconv>
+#include <csignal>
 #include <iostream>
 #include <optional>
-#include <signal.h>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <unistd.h>
 
 #include "engine/engine.h"
@@ -67,6 +69,10 @@ struct Arguments {
     std::string file;
 };
 
+/// Past a limit on file sizes the system would end the program; writing fails instead. A closed
+/// pipe does end it, as it does every filter.
+void OutliveTheSizeLimit() { std::signal(SIGXFSZ, SIG_IGN); }
+
 /// Nothing where the command line is not "[-n TIMES] FILE" with TIMES of at least 1.
 std::optional<Arguments> ReadArguments(int argc, char** argv) {
     Arguments arguments;
@@ -118,6 +124,7 @@ int main(int argc, char** argv) {
         return kExitUsage;
     }
     CatchInterrupt();
+    OutliveTheSizeLimit();
     LinuxFileSystem files;
     SystemRandomSource random;
     TerminalHost host;
@@ -133,12 +140,16 @@ int main(int argc, char** argv) {
         return kExitUsage;
     }
     engine.ResetGeneration();
-    for (int i = 0; i < arguments->times && !engine.IsAborted(); ++i) {
+    for (int i = 0; i < arguments->times && !engine.IsAborted() && std::cout; ++i) {
         files.LookAgain();
         const std::string result = IsScriptPath(path) ? engine.RunScript(path, /*fromRunner=*/true)
                                                       : engine.RollTable(path);
         std::cout << (i > 0 ? "\n" : "") << WithLineFeeds(result) << '\n';
     }
-    std::cout.flush();
-    return std::cout ? 0 : 1;
+    if (!std::cout.flush()) {
+        std::cerr << "quenloft-roll: The output could not be written: "
+                  << std::system_category().message(errno) << ".\n";
+        return 1;
+    }
+    return 0;
 }

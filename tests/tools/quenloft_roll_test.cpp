@@ -87,5 +87,15 @@ TEST_F(QuenloftRoll, EndsOnInterruptLikeTheAbortCommand) {
     EXPECT_EQ(outcome.output, "before\nProcess Aborted!\n");
 }
 
+TEST_F(QuenloftRoll, SaysWhyItsOutputWasNotWritten) {
+    EXPECT_EQ(RollIn(folder_, "lib/t.tbl 2>&1 >/dev/full").output,
+              "quenloft-roll: The output could not be written: No space left on device.\n");
+    const Outcome limited = RollIn(folder_, "-n 9999 lib/t.tbl 2>&1 >out", "ulimit -f 1;");
+    EXPECT_EQ(limited.output, "quenloft-roll: The output could not be written: File too large.\n");
+    EXPECT_EQ(limited.exitCode, 1);
+    // A reader that has seen enough ends it, as with every filter.
+    EXPECT_EQ(RollIn(folder_, "-n 2000000000 lib/t.tbl | head -n 1").output, "café\n");
+}
+
 }  // namespace
 }  // namespace quenloft
