@@ -25,6 +25,8 @@ class FakeDialogs : public Dialogs {
     void WillAnswer(Answer answer) { answers_.emplace_back(answer); }
     /// The text typed, or the file or folder chosen.
     void WillGive(std::string text) { answers_.emplace_back(std::move(text)); }
+    /// From now on messages may come at any time; TakeLog shows them like the others.
+    void WillConfirmEveryMessage() { confirmsEveryMessage_ = true; }
     void WillChoose(FontChoice font) { answers_.emplace_back(std::move(font)); }
 
     /// What the dialogs since the last call showed, each as "kind: text".
@@ -32,7 +34,12 @@ class FakeDialogs : public Dialogs {
 
     void ShowMessage(const std::string& text, MessageIcon icon) override {
         const char* kinds[] = {"message: ", "information: ", "warning: "};
-        Next<std::monostate>(kinds[static_cast<int>(icon)] + text);
+        const std::string shown = kinds[static_cast<int>(icon)] + text;
+        if (confirmsEveryMessage_) {
+            log_.push_back(shown);
+        } else {
+            Next<std::monostate>(shown);
+        }
     }
     Answer AskYesNo(const std::string& text) override {
         return Next<Answer>("yes or no: " + text).value_or(Answer::No);
@@ -81,6 +88,7 @@ class FakeDialogs : public Dialogs {
     }
 
     std::deque<Reply> answers_;
+    bool confirmsEveryMessage_ = false;
     Log log_;
 };
 
