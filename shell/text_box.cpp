@@ -34,6 +34,9 @@ bool IsBehindBreak(const QTextCursor& cursor) {
 
 TextBox::TextBox(QWidget* parent) : QPlainTextEdit(parent) {
     setTabChangesFocus(true);
+    // As narrow as its scroll bar, a box would show and hide that for ever: with it there is no
+    // width to wrap at, so the text needs one line and no bar; without it, many lines and a bar.
+    setMinimumWidth(minimumSizeHint().width());
     connect(this, &QPlainTextEdit::cursorPositionChanged, this, &TextBox::KeepCaretOffBreaks);
 }
 

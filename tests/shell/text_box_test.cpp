@@ -48,6 +48,41 @@ TEST(TextBox, LongWordsDoNotHoldUpTheProgram) {
     EXPECT_LT(box.document()->firstBlock().length(), 5'000);
 }
 
+/// Lets a box that is never done with its layout out of it.
+class EndlessLayout : public QObject {
+  public:
+    explicit EndlessLayout(QWidget& box) : box_(box) { qApp->installEventFilter(this); }
+    bool eventFilter(QObject* /*watched*/, QEvent* /*event*/) override {
+        constexpr int kPatience = 2000;  // A layout takes about fifty events.
+        if (++events_ == kPatience) {
+            ADD_FAILURE() << "endless at a width of " << box_.width();
+            box_.resize(300, 300);
+        }
+        return false;
+    }
+    void BeginAgain() { events_ = 0; }
+
+  private:
+    QWidget& box_;
+    int events_ = 0;
+};
+
+TEST(TextBox, SettlesInAnySize) {
+    QWidget window;
+    window.resize(300, 300);
+    TextBox box(&window);
+    box.SetText("word word word word word word word");
+    window.show();
+    EndlessLayout watch(box);
+    for (int width = 1; width <= 40 && !testing::Test::HasFailure(); ++width) {
+        for (const int height : {1, 20, 43, 44, 80}) {
+            watch.BeginAgain();
+            box.setGeometry(0, 0, width, height);
+            QCoreApplication::processEvents();
+        }
+    }
+}
+
 TEST(TextBox, KeepsCharactersThatTheDocumentHasUsesFor) {
     TextBox box;
     const QString text =
