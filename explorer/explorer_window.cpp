@@ -15,6 +15,7 @@
 #include "platform/desktop.h"
 #include "platform/dialogs.h"
 #include "platform/qt/qt_text.h"
+#include "shell/append_result.h"
 #include "shell/font_settings.h"
 #include "shell/form_names.h"
 #include "shell/generation_run.h"
@@ -309,7 +310,10 @@ void frmExplorer::RunFile(const LibraryItem& file) {
                    },
                .isAborted = [&] { return services.engine.IsAborted(); },
                .yield = [&] { services.host.Yield(); },
-               .append = [&](std::string_view text) { ui_->txtOut->AppendText(text); }});
+               .append =
+                   [&](std::string_view text) {
+                       return AppendResult(*ui_->txtOut, text, services.engine, services.host);
+                   }});
 }
 
 void frmExplorer::EnterFolderOf(const std::string& path) {

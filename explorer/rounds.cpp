@@ -39,7 +39,9 @@ void RunRounds(int rounds, const RoundsWork& work) {
             break;
         }
         if (Clock::now() - lastPiece >= kBetweenPieces) {
-            work.append(piece);
+            if (!work.append(piece)) {
+                return;
+            }
             piece.clear();
             lastPiece = Clock::now();
         }

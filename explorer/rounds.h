@@ -15,10 +15,11 @@ int RoundsFromText(std::string_view text);
 
 /// What RunRounds needs from its window.
 struct RoundsWork {
-    std::function<std::string()> roll;             ///< One finished result.
-    std::function<bool()> isAborted;               ///< Looked at after each round.
-    std::function<void()> yield;                   ///< Lets other events have a turn.
-    std::function<void(std::string_view)> append;  ///< Adds to the output.
+    std::function<std::string()> roll;  ///< One finished result.
+    std::function<bool()> isAborted;    ///< Looked at after each round.
+    std::function<void()> yield;        ///< Lets other events have a turn.
+    /// Adds to the output. False when an abort cut that, and the output says so.
+    std::function<bool(std::string_view)> append;
 };
 
 /// The results, two line breaks between them, appended in few pieces: not one by one, and yet so

@@ -73,7 +73,7 @@ void frmListSingle::Run() {
     }
     // A copy: another table may be bound while this one is rolled.
     const TableSlot table = slot_;
-    ResultBox result(*ui_->txtOut);
+    ResultBox result(*ui_->txtOut, workspace_.Services());
     result.Show(RollSlot(workspace_.Services().engine, table));
 }
 

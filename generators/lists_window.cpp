@@ -130,7 +130,7 @@ void frmLists::Generate(int slot) {
     // A copy: another table may be bound to the slot while this one is rolled.
     const TableSlot table = page_.At(slot);
     const int box = slot / kSlotsToABox;
-    ResultBox result(*txtOut_[box]);
+    ResultBox result(*txtOut_[box], workspace_.Services());
     shownSlot_[box] = slot;
     lblResult_[box]->SetTitle(ToQt(table.title));
     Refresh();

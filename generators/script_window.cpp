@@ -77,7 +77,7 @@ void frmScript::Run() {
     if (!run) {
         return;
     }
-    ResultBox result(*ui_->txtOut);
+    ResultBox result(*ui_->txtOut, workspace_.Services());
     result.Show(RunScriptAt(workspace_.Services().engine, folder_, FromQt(ui_->txtScript->text())));
 }
 

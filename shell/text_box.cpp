@@ -45,16 +45,19 @@ std::string TextBox::Text() const { return WholeText(*this); }
 void TextBox::SetText(std::string_view text) {
     clear();
     AppendText(text);
-    moveCursor(QTextCursor::Start);
 }
 
 void TextBox::AppendText(std::string_view text) {
+    const bool wasEmpty = document()->isEmpty();
     // Undo would keep every result of a long run a second time.
     setUndoRedoEnabled(false);
     QTextCursor end(document());
     end.movePosition(QTextCursor::End);
     InsertText(end, ToQt(text));
     setUndoRedoEnabled(true);
+    if (wasEmpty) {
+        moveCursor(QTextCursor::Start);  // Where it was: text that comes to it pushes it on.
+    }
 }
 
 QMimeData* TextBox::createMimeDataFromSelection() const {

@@ -1,8 +1,15 @@
 // The worst runs: the program must stay awake in each, and Abort must end it at once.
 #include <QElapsedTimer>
+#include <QPointer>
 #include <QTimer>
+#include <algorithm>
 
+#include "engine/interpreter.h"
 #include "engine/text_helpers.h"
+#include "shell/child_window.h"
+#include "shell/form_names.h"
+#include "shell/text_box.h"
+#include "shell/window_kinds.h"
 #include "tests/support/windows_fixture.h"
 
 namespace quenloft {
@@ -20,7 +27,7 @@ std::string Table(const std::string& entry) {
            entry + "\r\n";
 }
 
-std::vector<WorstRun> WorstRuns() {
+std::vector<WorstRun> Runs() {
     return {
         {"Jumps", "run.spt", "LABEL:a\r\nGOTO:a\r\n"},
         {"JumpsWithOutput", "run.spt", "LABEL:a\r\nx\r\nGOTO:a\r\n"},
@@ -33,36 +40,85 @@ std::vector<WorstRun> WorstRuns() {
     };
 }
 
-class Responsiveness : public WindowsFixture, public testing::WithParamInterface<WorstRun> {};
+class Responsiveness : public WindowsFixture {
+  protected:
+    Responsiveness() {
+        folder.Write("one.tbl", Table("one"));
+        folder.Write("wide.tbl", Table("#one^1000# #one^1000#"));
+        std::string lines;
+        for (int i = 0; i < 1000; ++i) {
+            lines += "x|";
+        }
+        folder.Write("page.tbl", Table(lines));
+        ShowMainWindow(window);
+    }
+    /// Runs the file in its window, result shown; the longest time between two turns of the event
+    /// loop.
+    qint64 LongestPause(const std::string& path) {
+        child = window.Open(IsScriptPath(path) ? form::kScript : form::kSingleList);
+        child->Load(path);
+        QElapsedTimer sinceTurn;
+        qint64 longest = 0;
+        QTimer turns;
+        QObject::connect(&turns, &QTimer::timeout,
+                         [&] { longest = std::max(longest, sinceTurn.restart()); });
+        turns.start(0);
+        QCoreApplication::processEvents();
+        sinceTurn.start();
+        child->Run();
+        return std::max(longest, sinceTurn.elapsed());
+    }
+    std::string Output() const { return child->findChild<TextBox*>("txtOut")->Text(); }
 
-TEST_P(Responsiveness, TheEventLoopTurnsAndAbortEndsTheRun) {
-    folder.Write("one.tbl", Table("one"));
-    folder.Write("wide.tbl", Table("#one^1000# #one^1000#"));
-    const std::string path = folder.Write(GetParam().file, GetParam().bytes);
-    QElapsedTimer sinceTurn;
+    frmMain window{Services(), MakeWindowKinds(random)};
+    ChildWindow* child = nullptr;
+};
+
+class WorstRuns : public Responsiveness, public testing::WithParamInterface<WorstRun> {};
+
+TEST_P(WorstRuns, TheEventLoopTurnsAndAbortEndsTheRun) {
     QElapsedTimer sinceAbort;
-    qint64 longestPause = 0;
-    sinceTurn.start();
-    QTimer turns;
-    QObject::connect(&turns, &QTimer::timeout,
-                     [&] { longestPause = std::max(longestPause, sinceTurn.restart()); });
-    turns.start(0);
     constexpr int kUntilAbort = 400;
     QTimer::singleShot(kUntilAbort, [&] {
         sinceAbort.start();
-        engine.SetAbortFlag();
+        window.AbortRun();
     });
-    engine.ClearAbortFlag();
-    engine.ResetGeneration();
-    IsScriptPath(path) ? engine.RunScript(path, true) : engine.RollTable(path);
+    EXPECT_LT(LongestPause(folder.Write(GetParam().file, GetParam().bytes)), 100)
+        << "between two turns of the event loop";
     if (sinceAbort.isValid()) {
-        EXPECT_LT(sinceAbort.elapsed(), 250) << "from Abort to the end";
+        EXPECT_LT(sinceAbort.elapsed(), 250) << "from Abort to the result";
     }
-    EXPECT_LT(longestPause, 100) << "between two turns of the event loop";
 }
 
-INSTANTIATE_TEST_SUITE_P(Runs, Responsiveness, testing::ValuesIn(WorstRuns()),
+INSTANTIATE_TEST_SUITE_P(Responsiveness, WorstRuns, testing::ValuesIn(Runs()),
                          [](const auto& run) { return std::string(run.param.name); });
+
+TEST_F(Responsiveness, ALargeResultIsShownWholeAndMeanwhileTheEventLoopTurns) {
+    const std::string path = folder.Write("run.tbl", Table("#page^300#"));
+    EXPECT_LT(LongestPause(path), 100);
+    const std::string shown = Output();
+    EXPECT_EQ(std::count(shown.begin(), shown.end(), 'x'), 300'000);
+    EXPECT_EQ(shown.find(kAbortedText), std::string::npos);
+    EXPECT_EQ(child->findChild<TextBox*>("txtOut")->textCursor().position(), 0);
+}
+
+TEST_F(Responsiveness, AWindowClosedWhileItsResultIsShownGoesAtOnce) {
+    QTimer closing;
+    QObject::connect(&closing, &QTimer::timeout, [&] {
+        if (child && child->findChild<TextBox*>("txtOut")->blockCount() > 10'000) {
+            closing.stop();
+            child->CloseWindow();
+        }
+    });
+    closing.start(0);
+    LongestPause(folder.Write("run.tbl", Table("#page^300#")));
+    const std::string shown = Output();
+    EXPECT_TRUE(shown.ends_with("x\r\n\r\n\r\nProcess Aborted!")) << shown.size();
+    const QPointer<ChildWindow> closed = child;
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_FALSE(closed);
+}
 
 }  // namespace
 }  // namespace quenloft

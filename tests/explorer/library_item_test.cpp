@@ -78,6 +78,7 @@ class RunRoundsTest : public testing::Test {
                                [this](std::string_view text) {
                                    ++pieces;
                                    output += text;
+                                   return true;
                                }});
         return output;
     }
