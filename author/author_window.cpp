@@ -89,10 +89,13 @@ std::optional<UnsavedWork> frmAuthor::Unsaved() const {
         return std::nullopt;
     }
     return UnsavedWork{file_.Path(), file_.Base(), static_cast<std::uint64_t>(document.revision()),
-                       [this] { return WriteRtf(ui_->rtfAuthor->Text()); }};
+                       [this]() -> std::function<std::string()> {
+                           return [text = ui_->rtfAuthor->Text()] { return WriteRtf(text); };
+                       }};
 }
 
 void frmAuthor::PutBack(const KeptText& kept) {
+    workspace_.Services().files.LookAgain();
     file_.Resume(kept.path, kept.base);
     ui_->rtfAuthor->SetText(ReadRtf(kept.text).text);
     ui_->rtfAuthor->document()->setModified(true);

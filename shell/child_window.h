@@ -26,10 +26,13 @@ int TwipsToPixels(int twips);
 
 /// What a window holds that is in no file.
 struct UnsavedWork {
-    std::string path;                   ///< Of its file, native; empty where it has none.
-    std::string base;                   ///< Fingerprint of what the window knows of that file.
-    std::uint64_t revision = 0;         ///< Another one after each change of the text.
-    std::function<std::string()> text;  ///< In the window's own form. Asked for at once, or never.
+    std::string path;            ///< Of its file, native; empty where it has none.
+    std::string base;            ///< Fingerprint of what the window knows of that file.
+    std::uint64_t revision = 0;  ///< Another one after each change of the text.
+    /// Takes what stands in the window, quickly: the user may be typing. Called at once or never.
+    /// What it returns may take its time, in another thread: it gives the text in the window's own
+    /// form.
+    std::function<std::function<std::string()>()> snapshot;
 };
 
 /// Name, place and closing; and the operations that menus and other windows call. An operation that

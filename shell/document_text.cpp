@@ -7,6 +7,8 @@
 #include <array>
 #include <utility>
 
+#include "platform/qt/qt_text.h"
+
 namespace quenloft {
 namespace {
 
@@ -42,13 +44,40 @@ bool IsStandIn(QStringView text, qsizetype place) {
            (place == 0 || !text[place - 1].isHighSurrogate());
 }
 
+QChar ReservedOf(QChar standIn) {
+    return QChar(kReserved[static_cast<std::size_t>(standIn.unicode()) - kFirstStandIn]);
+}
+
 void TakeStandInsBack(QString& text) {
     for (qsizetype i = 0; i < text.size(); ++i) {
         if (text.at(i).isLowSurrogate() && IsStandIn(text, i)) {
-            text[i] =
-                QChar(kReserved[static_cast<std::size_t>(text.at(i).unicode()) - kFirstStandIn]);
+            text[i] = ReservedOf(text.at(i));
         }
     }
+}
+
+/// `raw` is what stands in a document, its marks and stand-ins included.
+QString TextOfRaw(QStringView raw, QLatin1String lineBreak) {
+    const auto isPlain = [](QChar c) {
+        return c != kGoesOn && c != QChar::ParagraphSeparator && !c.isLowSurrogate();
+    };
+    QString text;
+    text.reserve(raw.size() + raw.size() / 16);  // Line breaks may be longer there.
+    for (qsizetype i = 0; i < raw.size(); ++i) {
+        const auto* rest = raw.begin() + i;
+        const qsizetype plain = std::find_if_not(rest, raw.end(), isPlain) - rest;
+        text += raw.mid(i, plain);
+        i += plain;
+        if (i == raw.size() || raw[i] == kGoesOn) {
+            continue;
+        }
+        if (raw[i] != QChar::ParagraphSeparator) {
+            text += IsStandIn(raw, i) ? ReservedOf(raw[i]) : raw[i];
+        } else if (i == 0 || raw[i - 1] != kGoesOn) {
+            text += lineBreak;
+        }
+    }
+    return text;
 }
 
 void UnifyLineEnds(QString& text) {
@@ -172,7 +201,11 @@ QString TextBetween(const QTextDocument& document, int start, int end, QLatin1St
 }
 
 QString WholeText(const QTextDocument& document, QLatin1String lineBreak) {
-    return TextBetween(document, 0, document.characterCount() - 1, lineBreak);
+    return TextOfRaw(document.toRawText(), lineBreak);
+}
+
+std::function<std::string()> LinesLater(const QTextDocument& document) {
+    return [raw = document.toRawText()] { return FromQt(TextOfRaw(raw, QLatin1String("\n"))); };
 }
 
 }  // namespace quenloft

@@ -9,6 +9,8 @@
 
 #include <QLatin1String>
 #include <QString>
+#include <functional>
+#include <string>
 
 class QTextBlock;
 class QTextCursor;
@@ -30,5 +32,8 @@ void InsertText(QTextCursor& cursor, QString text);
 /// What stands from position `start` to `end`, with `lineBreak` between the lines.
 QString TextBetween(const QTextDocument& document, int start, int end, QLatin1String lineBreak);
 QString WholeText(const QTextDocument& document, QLatin1String lineBreak);
+/// The same as UTF-8 with "\n" between the lines, for another thread: only the copy of what stands
+/// in the document is made now, in some milliseconds for ten million letters.
+std::function<std::string()> LinesLater(const QTextDocument& document);
 
 }  // namespace quenloft

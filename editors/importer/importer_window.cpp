@@ -115,7 +115,7 @@ std::optional<UnsavedWork> frmImportTable::Unsaved() const {
         return std::nullopt;
     }
     return UnsavedWork{file_.Path(), file_.Base(), static_cast<std::uint64_t>(document.revision()),
-                       [&document] { return FromQt(WholeText(document, QLatin1String("\n"))); }};
+                       [&document] { return LinesLater(document); }};
 }
 
 void frmImportTable::PutBack(const KeptText& kept) {

@@ -144,7 +144,9 @@ std::optional<UnsavedWork> frmEdit_Table::Unsaved() const {
     const std::uint64_t typed = IsTyping() ? qHash(tbFgEdit_->text()) : 0;
     constexpr int kHalf = 32;
     return UnsavedWork{file_.Path(), file_.Base(), (model_->Revision() << kHalf) ^ typed,
-                       [this] { return KeptTable(ContentWithTyped()); }};
+                       [this]() -> std::function<std::string()> {
+                           return [content = ContentWithTyped()] { return KeptTable(content); };
+                       }};
 }
 
 void frmEdit_Table::PutBack(const KeptText& kept) {

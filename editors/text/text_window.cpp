@@ -18,6 +18,7 @@
 #include "platform/dialogs.h"
 #include "platform/file_system.h"
 #include "platform/qt/qt_text.h"
+#include "shell/document_text.h"
 #include "shell/font_settings.h"
 #include "shell/form_names.h"
 #include "shell/recovery/kept_text.h"
@@ -131,7 +132,7 @@ std::optional<UnsavedWork> frmEdit::Unsaved() const {
         return std::nullopt;
     }
     return UnsavedWork{file_.Path(), file_.Base(), static_cast<std::uint64_t>(document.revision()),
-                       [this] { return ui_->txtOut->Lines(); }};
+                       [&document] { return LinesLater(document); }};
 }
 
 void frmEdit::PutBack(const KeptText& kept) {

@@ -36,6 +36,7 @@ class Recovery : public QObject {
     void Begin(const QMdiArea& area, std::chrono::milliseconds interval = kRecoveryInterval);
 
     const std::vector<LeftText>& Left() const { return left_.All(); }
+    const std::vector<std::string>& SetAside() const { return left_.SetAside(); }
     /// Tells the user of files that were found and cannot be read; does nothing where there are
     /// none.
     void TellSetAside();

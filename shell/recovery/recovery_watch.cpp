@@ -70,7 +70,8 @@ void RecoveryWatch::LookAt(ChildWindow& window) {
         return;
     }
     kept = {kept.number, true, work->revision, work->path, work->base};
-    writer_.Keep(kept.number, {window.FormName(), work->path, work->base, Now(), work->text()});
+    writer_.Keep(kept.number, {window.FormName(), work->path, work->base, Now(), {}},
+                 work->snapshot());
 }
 
 RecoveryWatch::Kept& RecoveryWatch::Follow(ChildWindow& window) {

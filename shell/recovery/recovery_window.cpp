@@ -92,7 +92,6 @@ void frmRecovery::FollowTexts() {
 }
 
 void frmRecovery::ShowTexts() {
-    workspace_.Services().files.LookAgain();
     ui_->lvwTexts->clear();
     for (const LeftText& left : recovery_.Left()) {
         auto* item = new QTreeWidgetItem(
@@ -136,8 +135,10 @@ std::optional<std::string> frmRecovery::FileOf(const LeftText& left) const {
     if (left.kept.path.empty()) {
         return std::nullopt;
     }
+    FileSystem& files = workspace_.Services().files;
+    files.LookAgain();
     try {
-        return workspace_.Services().files.ReadBytes(left.kept.path);
+        return files.ReadBytes(left.kept.path);
     } catch (const FileError&) {
         return std::nullopt;
     }

@@ -15,15 +15,15 @@ RecoveryWriter::RecoveryWriter(std::string parent, std::function<void(const std:
 
 RecoveryWriter::~RecoveryWriter() = default;
 
-void RecoveryWriter::Keep(int number, KeptText kept) {
+void RecoveryWriter::Keep(int number, KeptText kept, std::function<std::string()> text) {
     const std::scoped_lock lock(mutex_);
-    waiting_[number] = std::move(kept);
+    waiting_[number] = {std::move(kept), std::move(text)};
     changed_.notify_all();
 }
 
 void RecoveryWriter::Remove(int number) {
     const std::scoped_lock lock(mutex_);
-    waiting_[number].reset();
+    waiting_[number] = {};
     changed_.notify_all();
 }
 
@@ -41,11 +41,11 @@ void RecoveryWriter::Work(const std::stop_token& stop) {
     std::unique_lock lock(mutex_);
     // What waits at the end is done too: a left text may have to go.
     while (changed_.wait(lock, stop, [this] { return !waiting_.empty(); })) {
-        const Tasks tasks = std::exchange(waiting_, {});
+        Tasks tasks = std::exchange(waiting_, {});
         isBusy_ = true;
         lock.unlock();
-        for (const auto& [number, kept] : tasks) {
-            Do(number, kept);
+        for (auto& [number, task] : tasks) {
+            Do(number, std::move(task));
         }
         lock.lock();
         isBusy_ = false;
@@ -53,10 +53,11 @@ void RecoveryWriter::Work(const std::stop_token& stop) {
     }
 }
 
-void RecoveryWriter::Do(int number, const std::optional<KeptText>& kept) {
+void RecoveryWriter::Do(int number, Task task) {
     try {
-        if (kept) {
-            folder_.Keep(number, *kept);
+        if (task.text) {
+            task.kept.text = task.text();
+            folder_.Keep(number, task.kept);
         } else {
             folder_.Remove(number);
         }
@@ -66,6 +67,10 @@ void RecoveryWriter::Do(int number, const std::optional<KeptText>& kept) {
         }
         return;
     }
+    DeleteReplaced(number);
+}
+
+void RecoveryWriter::DeleteReplaced(int number) {
     std::vector<std::string> replaced;
     {
         const std::scoped_lock lock(mutex_);

@@ -5,7 +5,6 @@
 #include <functional>
 #include <map>
 #include <mutex>
-#include <optional>
 #include <string>
 #include <thread>
 
@@ -23,7 +22,8 @@ class RecoveryWriter {
     /// Waits for what is being written; then nothing is kept any more.
     ~RecoveryWriter();
 
-    void Keep(int number, KeptText kept);
+    /// `text` is called in the thread, for what `kept` leaves open.
+    void Keep(int number, KeptText kept, std::function<std::string()> text);
     void Remove(int number);
     /// `leftFile` is to be deleted as soon as `number` has been kept, or removed.
     void Replace(int number, const std::string& leftFile);
@@ -32,10 +32,15 @@ class RecoveryWriter {
     void Wait();
 
   private:
-    using Tasks = std::map<int, std::optional<KeptText>>;  // Nothing is kept where there is none.
+    struct Task {
+        KeptText kept;
+        std::function<std::string()> text;  // Without it nothing is to be kept.
+    };
+    using Tasks = std::map<int, Task>;
 
     void Work(const std::stop_token& stop);
-    void Do(int number, const std::optional<KeptText>& kept);
+    void Do(int number, Task task);
+    void DeleteReplaced(int number);
 
     RecoveryFolder folder_;  // Of the thread alone.
     const std::function<void(const std::string&)> failed_;

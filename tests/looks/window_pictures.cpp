@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFontInfo>
+#include <QPushButton>
 #include <QStyleFactory>
 #include <QTest>
 #include <cstdio>
@@ -18,6 +19,7 @@
 #include "shell/form_names.h"
 #include "shell/main_window.h"
 #include "shell/program_icon.h"
+#include "shell/recovery/recovery.h"
 #include "shell/settings_dialog.h"
 #include "shell/window_kinds.h"
 #include "tests/support/temp_program.h"
@@ -54,11 +56,24 @@ const std::map<std::string_view, const char*> kFiles = {
     {form::kEdit, "/Scripts/Village.spt"},
 };
 
+/// What a program that was killed left for the recovery window. Returns the state folder.
+std::string LeaveTexts(const TempFolder& folder) {
+    const std::string script = QUENLOFT_LIBRARY "/Scripts/Hoard.spt";
+    constexpr std::int64_t kTime = 1800000000;
+    folder.Write("state/unsaved/old/lock", "");
+    folder.Write("state/unsaved/old/1.text",
+                 BytesOfKept({form::kEdit, script, "", kTime, "A first line\nand another one\n"}));
+    folder.Write("state/unsaved/old/2.text",
+                 BytesOfKept({form::kEditTable, "", "", kTime - 1, "Innkeepers\n\n1\nAda\n"}));
+    return folder.Path("state");
+}
+
 void TakePictures(const QDir& folder) {
     const std::string library = QUENLOFT_LIBRARY;
     TempProgram program;
     program.folder.Write("quenloft.INI", "[Settings]\r\nLibpath=" + library + "\r\n");
-    const std::vector<WindowKind> kinds = MakeWindowKinds(program.random);
+    Recovery recovery(LeaveTexts(program.folder), program.dialogs);
+    const std::vector<WindowKind> kinds = MakeWindowKinds(program.random, &recovery);
     const ServiceSet services = program.Services();
     frmMain window(services, kinds);
     window.StartUp();
@@ -77,6 +92,9 @@ void TakePictures(const QDir& folder) {
         if (kind.formName == std::string_view(form::kSingleList) ||
             kind.formName == std::string_view(form::kScript)) {
             child->Run();
+        }
+        if (auto* compare = child->findChild<QPushButton*>("btnCompare")) {
+            compare->click();
         }
         save(window, QLatin1String(kind.formName));
     }

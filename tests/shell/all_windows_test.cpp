@@ -10,6 +10,7 @@
 #include <QTextEdit>
 #include <map>
 
+#include "shell/recovery/recovery.h"
 #include "shell/settings_dialog.h"
 #include "shell/window_kinds.h"
 #include "tests/support/windows_fixture.h"
@@ -24,7 +25,7 @@ class AllWindows : public WindowsFixture {
     /// Opens each window of the program and hands it over.
     template <typename Look>
     void InEach(Look look) {
-        for (const WindowKind& kind : MakeWindowKinds(random)) {
+        for (const WindowKind& kind : MakeWindowKinds(random, &recovery)) {
             ChildWindow* child = window.Open(kind.formName);
             ASSERT_TRUE(child) << kind.formName;
             look(*child);
@@ -45,7 +46,8 @@ class AllWindows : public WindowsFixture {
                widget.inherits("QComboBoxListView");
     }
 
-    frmMain window{Services(), MakeWindowKinds(random)};
+    Recovery recovery{folder.Path("state"), dialogs};
+    frmMain window{Services(), MakeWindowKinds(random, &recovery)};
 };
 
 TEST_F(AllWindows, EveryControlHasANameToBeReadOut) {

@@ -69,7 +69,7 @@ TEST_F(RecoveryTest, EveryEditorGetsItsUnsavedTextBackAndSavesItIntoItsFile) {
             EXPECT_FALSE(editor->Unsaved());
             Type(*editor, c.box, "X");
             ASSERT_TRUE(WaitForKept(state, 1));
-            kept = editor->Unsaved()->text();
+            kept = editor->Unsaved()->snapshot()();
             first.recovery.Wait();
             StateAfterKill(state, folder.Path("next"));
         }
@@ -78,7 +78,7 @@ TEST_F(RecoveryTest, EveryEditorGetsItsUnsavedTextBackAndSavesItIntoItsFile) {
         ChildWindow* editor = RestoreOnly(next);
         ASSERT_TRUE(editor);
         EXPECT_TRUE(editor->isWindowModified());
-        EXPECT_EQ(editor->Unsaved()->text(), kept);
+        EXPECT_EQ(editor->Unsaved()->snapshot()(), kept);
         EXPECT_EQ(editor->Unsaved()->path, path);
         if (c.form == form::kImportTable) {
             dialogs.WillGive("T");
@@ -105,7 +105,7 @@ TEST_F(RecoveryTest, CellsOutliveTheirFaultsAndEvenTheirEditing) {
     QTest::keyClick(editor->findChild<QWidget*>("tbFgEdit"), Qt::Key_Tab);
     Type(*editor, "tbFgEdit", "half an ent");
     const std::string cells = "T\n\nmany\nhalf an ent\n";
-    ASSERT_EQ(editor->Unsaved()->text(), cells);
+    ASSERT_EQ(editor->Unsaved()->snapshot()(), cells);
     ASSERT_TRUE(QTest::qWaitFor([&] {
         const auto files = KeptFiles(state);
         return files.size() == 1 &&
@@ -113,7 +113,7 @@ TEST_F(RecoveryTest, CellsOutliveTheirFaultsAndEvenTheirEditing) {
                    std::string::npos;
     }));
     Start next = Next();
-    EXPECT_EQ(RestoreOnly(next)->Unsaved()->text(), cells);
+    EXPECT_EQ(RestoreOnly(next)->Unsaved()->snapshot()(), cells);
 }
 
 TEST_F(RecoveryTest, AFileChangedSinceIsAskedAboutBeforeItIsSavedOver) {

@@ -38,7 +38,7 @@ open_screen() {
     XDG_RUNTIME_DIR=$work/runtime
     HOME=$work
     export DISPLAY XDG_RUNTIME_DIR HOME
-    unset QT_QPA_PLATFORM XDG_CONFIG_HOME
+    unset QT_QPA_PLATFORM XDG_CONFIG_HOME XDG_STATE_HOME
     openbox >/dev/null 2>&1 &
     pids="$pids $!"
     wait_for "the window manager" sh -c 'xdotool get_num_desktops'
