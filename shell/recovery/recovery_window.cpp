@@ -32,6 +32,9 @@ frmRecovery::frmRecovery(Workspace& workspace, Recovery& recovery)
       ui_(std::make_unique<Ui::frmRecovery>()),
       recovery_(recovery) {
     ui_->setupUi(this);
+    // Not in the form: what is made of columns there does not pass this project's checks.
+    ui_->lvwTexts->setHeaderLabels({tr("Document"), tr("Kind"), tr("Kept"), tr("File since"),
+                                    tr("Begins with"), tr("Folder")});
     setFocusProxy(ui_->lvwTexts);
     ui_->txtDifference->hide();
     connect(ui_->lvwTexts, &QTreeWidget::currentItemChanged, this, &frmRecovery::ForgetComparison);
