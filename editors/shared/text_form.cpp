@@ -110,6 +110,12 @@ const RawLine* FormerLine(const Comparison& comparison, std::size_t index) {
                                            : nullptr;
 }
 
+void AppendLine(std::string& bytes, std::string_view line, std::string_view end) {
+    // In a file of several kinds of line ends an empty line could make one end of two.
+    const bool joins = line.empty() && end == "\n" && bytes.ends_with('\r');
+    bytes.append(line).append(joins ? "\r\n" : end);
+}
+
 bool HasHighBytes(std::string_view bytes) {
     return std::ranges::any_of(bytes, [](char byte) { return static_cast<signed char>(byte) < 0; });
 }
@@ -150,14 +156,14 @@ std::optional<std::string> BytesOfText(std::string_view text, std::string_view f
     std::string bytes(MarkOf(former));
     for (std::size_t i = 0; i < comparison.lines.size(); ++i) {
         if (const RawLine* same = FormerLine(comparison, i)) {
-            bytes.append(same->bytes).append(same->end);
+            AppendLine(bytes, same->bytes, same->end);
             continue;
         }
         const auto line = EncodeLine(comparison.lines[i], encoding);
         if (!line) {
             return std::nullopt;
         }
-        bytes.append(*line).append(i + 1 < comparison.lines.size() ? newEnd : std::string_view());
+        AppendLine(bytes, *line, i + 1 < comparison.lines.size() ? newEnd : std::string_view());
     }
     return bytes;
 }
@@ -169,8 +175,10 @@ std::string Utf8BytesOfText(std::string_view text, std::string_view former) {
     for (std::size_t i = 0; i < comparison.lines.size(); ++i) {
         const RawLine* same = FormerLine(comparison, i);
         const bool isLast = i + 1 == comparison.lines.size();
-        bytes.append(comparison.lines[i]);
-        bytes.append(same ? same->end : isLast ? std::string_view() : newEnd);
+        AppendLine(bytes, comparison.lines[i],
+                   same     ? same->end
+                   : isLast ? std::string_view()
+                            : newEnd);
     }
     return bytes;
 }

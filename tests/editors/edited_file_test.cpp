@@ -33,8 +33,9 @@ TEST(TextForm, ChangesOnlyTheLinesThatWereChanged) {
         {"", "a\nb", "a\r\nb"},                                   // New files: CR LF.
         {"a\nb\n", "a\nx\nb\n", "a\nx\nb\n"},                     // LF stays LF.
         {"a\r\nb\nc\r\n", "a\nb\nx\nc\n", "a\r\nb\nx\r\nc\r\n"},  // What is mixed stays mixed.
-        {"a\nb", "a\nb\n", "a\nb\n"},                             // The last line gets an end,
-        {"a\nb\n", "a\nb", "a\nb"},                               // and loses it.
+        {"a\rb\rc\rd\n\ne", "a\nb\nc\nd\nx\n\ne", "a\rb\rc\rd\nx\r\r\ne"},  // Two ends, not one.
+        {"a\nb", "a\nb\n", "a\nb\n"},  // The last line gets an end,
+        {"a\nb\n", "a\nb", "a\nb"},    // and loses it.
         {"\xC2\xA7\n\xA7\nz", "\xC2\xA7\n\xC2\xA7\nz\xC2\xA7", "\xC2\xA7\n\xA7\nz\xA7"},
         {"a\na\na\n", "a\na\n", "a\na\n"},
     };
