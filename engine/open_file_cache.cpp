@@ -33,13 +33,4 @@ void OpenedFile::Close() {
     }
 }
 
-bool OpenFileCache::Exists(std::string_view path) const {
-    for (const OpenedFile* file = innermost_; file != nullptr; file = file->outer_) {
-        if (file->path_ == path) {
-            return true;
-        }
-    }
-    return false;
-}
-
 }  // namespace quenloft

@@ -51,7 +51,6 @@ class OpenedFile {
     void Close();
 
   private:
-    friend class OpenFileCache;
     OpenFileCache& cache_;
     std::string_view path_;
     FileHandle own_;
@@ -60,12 +59,8 @@ class OpenedFile {
     bool registered_ = false;
 };
 
+/// The files of one run.
 class OpenFileCache {
-  public:
-    /// True when a file is open under exactly this path.
-    bool Exists(std::string_view path) const;
-
-  private:
     friend class OpenedFile;
     OpenedFile* innermost_ = nullptr;
 };
