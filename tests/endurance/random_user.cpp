@@ -4,10 +4,14 @@
 #include <QAction>
 #include <QApplication>
 #include <QDialog>
+#include <QDragEnterEvent>
+#include <QDropEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QTest>
+#include <QUrl>
 #include <filesystem>
 #include <fstream>
 
@@ -29,7 +33,8 @@ void RandomUser::Act(frmMain& window) {
     constexpr int kClicks = 55;
     constexpr int kTexts = 75;
     constexpr int kKeys = 94;
-    constexpr int kCloses = 97;
+    constexpr int kCloses = 96;
+    constexpr int kDrops = 97;
     const int what = Pick(100);
     if (what < kMenus) {
         ChooseFromMenu(window);
@@ -41,6 +46,8 @@ void RandomUser::Act(frmMain& window) {
         PressKey(AnyControl(window));
     } else if (what < kCloses) {
         CloseAWindow(window);
+    } else if (what < kDrops) {
+        DropAFile(window, AnyControl(window));
     } else {
         ChangeAFile();
     }
@@ -48,11 +55,23 @@ void RandomUser::Act(frmMain& window) {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
-void RandomUser::ShowMessage(const std::string&, MessageIcon) {}
+std::string RandomUser::Diary() const {
+    std::string text;
+    for (const auto& [what, times] : diary_) {
+        text += std::to_string(times) + " " + what + "\n";
+    }
+    return text;
+}
 
-Answer RandomUser::AskYesNo(const std::string&) { return OneIn(2) ? Answer::Yes : Answer::No; }
+void RandomUser::ShowMessage(const std::string&, MessageIcon) { Note("message"); }
+
+Answer RandomUser::AskYesNo(const std::string&) {
+    Note("question");
+    return OneIn(2) ? Answer::Yes : Answer::No;
+}
 
 Answer RandomUser::AskYesNoCancel(const std::string&) {
+    Note("question to save");
     const Answer answers[] = {Answer::Yes, Answer::No, Answer::Cancel};
     return answers[Pick(3)];
 }
@@ -63,11 +82,13 @@ std::optional<std::string> RandomUser::AskText(const std::string&, const std::st
 }
 
 std::optional<std::string> RandomUser::ChooseFileToOpen(const std::string&, const std::string&) {
+    Note("file to open");
     return OneIn(4) ? std::nullopt : std::optional(AnyFile());
 }
 
 std::optional<std::string> RandomUser::ChooseFileToSave(const std::string&, const std::string&,
                                                         int) {
+    Note("file to save");
     const char* names[] = {"new.tbl", "new.spt", "new.rtf", "new.txt", "missing/new.tbl", ""};
     if (OneIn(4)) {
         return std::nullopt;
@@ -110,6 +131,7 @@ QWidget* RandomUser::AnyControl(frmMain& window) {
     if (!frame) {
         return nullptr;
     }
+    Note("action in " + frame->widget()->objectName().toStdString());
     QList<QWidget*> controls;
     for (QWidget* widget : frame->findChildren<QWidget*>()) {
         constexpr int kVisible = 8;  // Pixels; less can hardly be hit.
@@ -130,7 +152,9 @@ void RandomUser::ChooseFromMenu(frmMain& window) {
             actions << action;
         }
     }
-    actions[Pick(static_cast<int>(actions.size()))]->trigger();
+    QAction* action = actions[Pick(static_cast<int>(actions.size()))];
+    Note("menu " + action->objectName().toStdString());
+    action->trigger();
 }
 
 void RandomUser::Click(QWidget* control) {
@@ -214,6 +238,20 @@ void RandomUser::ChangeAFile() {
     }
 }
 
+void RandomUser::DropAFile(frmMain& window, QWidget* control) {
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(QString::fromStdString(AnyFile()))});
+    const QPointer<QWidget> target = control && OneIn(2) ? control : &window;
+    Note(target == &window ? "drop on the main window" : "drop on a control");
+    const QPoint place = target->rect().center();
+    QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(target, &enter);
+    if (enter.isAccepted() && target) {
+        QDropEvent drop(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(target, &drop);
+    }
+}
+
 void RandomUser::Attend() {
     if (QWidget* popup = QApplication::activePopupWidget()) {
         QTest::keyClick(popup, OneIn(3) ? Qt::Key_Down : Qt::Key_Escape);
@@ -221,6 +259,7 @@ void RandomUser::Attend() {
     }
     if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
         if (OneIn(3)) {
+            Note("dialog " + dialog->objectName().toStdString());
             OneIn(2) ? dialog->accept() : dialog->reject();
         } else if (QWidget* focus = dialog->focusWidget()) {
             QTest::keyClick(focus, OneIn(2) ? Qt::Key_Return : Qt::Key_Down);
@@ -231,6 +270,7 @@ void RandomUser::Attend() {
         auto* window = qobject_cast<frmMain*>(widget);
         // A run that is going on: leave it alone, close its window, or end it.
         if (window && window->IsRunning() && OneIn(4)) {
+            Note("run interrupted");
             OneIn(3) ? CloseAWindow(*window) : window->AbortRun();
         }
     }

@@ -5,6 +5,7 @@
 #include <QPointer>
 #include <QTimer>
 #include <QWidget>
+#include <map>
 #include <random>
 #include <string>
 #include <vector>
@@ -22,6 +23,8 @@ class RandomUser : public Dialogs {
 
     /// Does one thing to the program.
     void Act(frmMain& window);
+    /// What was done, a line each: how often, and what.
+    std::string Diary() const;
 
     // --- Dialogs ---
     void ShowMessage(const std::string& text, MessageIcon icon) override;
@@ -51,12 +54,15 @@ class RandomUser : public Dialogs {
     void PressKey(QWidget* control);
     void CloseAWindow(frmMain& window);
     void ChangeAFile();
+    void DropAFile(frmMain& window, QWidget* control);
+    void Note(const std::string& what) { ++diary_[what]; }
     /// Leaves whatever waits for an answer above the main window: a menu, the reference browser.
     void Attend();
 
     std::mt19937 random_;
     const std::string folder_;
     QTimer attendant_;
+    std::map<std::string, int> diary_;
 };
 
 }  // namespace quenloft

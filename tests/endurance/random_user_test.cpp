@@ -1,14 +1,16 @@
 // Random users of the whole program. Qt's warnings and the sanitizers are what watches.
 //
 //   QUENLOFT_RANDOM_ACTIONS=100000 QUENLOFT_RANDOM_SEED=7 endurance_tests
-//   --gtest_filter='RandomUsers.*'
+//       --gtest_filter='*RandomUsers.*/0'
 //
-// does more, or the same again.
+// does more, or the same again, and then tells what was done how often.
 #include "tests/endurance/random_user.h"
 
 #include <QTest>
+#include <cstdio>
 
 #include "shell/window_kinds.h"
+#include "tests/endurance/watch_dog.h"
 #include "tests/support/windows_fixture.h"
 
 namespace quenloft {
@@ -50,11 +52,9 @@ class RandomUsers : public testing::TestWithParam<int> {};
 
 TEST_P(RandomUsers, DoNoHarm) {
     const int seed = FromEnvironment("QUENLOFT_RANDOM_SEED", GetParam());
+    constexpr int kSome = 300;
     const int actions = FromEnvironment("QUENLOFT_RANDOM_ACTIONS", 0);
-    if (actions == 0) {
-        GTEST_SKIP() << "QUENLOFT_RANDOM_ACTIONS says how much to do";
-    }
-    SCOPED_TRACE("QUENLOFT_RANDOM_SEED=" + std::to_string(seed));
+    WatchDog watchDog;
     const TempFolder folder;
     WriteLibrary(folder);
     LinuxFileSystem files;
@@ -71,10 +71,17 @@ TEST_P(RandomUsers, DoNoHarm) {
     window.StartUp();
     window.resize(1280, 800);
     QApplication::setActiveWindow(&window);
-    for (int i = 0; i < actions && !HasFailure(); ++i) {
+    for (int i = 0; i < (actions > 0 ? actions : kSome) && !HasFailure(); ++i) {
+        const std::string action =
+            "QUENLOFT_RANDOM_SEED=" + std::to_string(seed) + ", action " + std::to_string(i);
+        SCOPED_TRACE(action);
+        watchDog.Begin(action);
         user.Act(window);
         printer.printed.clear();
         printer.printedHtml.clear();
+    }
+    if (actions > 0) {
+        std::puts(user.Diary().c_str());
     }
 }
 
