@@ -65,8 +65,9 @@ void RecoveryWatch::LookAt(ChildWindow& window) {
         return;
     }
     Kept& kept = Follow(window);
-    if (kept.isKept && kept.revision == work->revision && kept.path == work->path &&
-        kept.base == work->base) {
+    const bool isSame =
+        kept.revision == work->revision && kept.path == work->path && kept.base == work->base;
+    if (kept.isKept && isSame && !writer_.HasFailed(kept.number)) {
         return;
     }
     kept = {kept.number, true, work->revision, work->path, work->base};

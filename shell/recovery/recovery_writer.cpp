@@ -32,6 +32,11 @@ void RecoveryWriter::Replace(int number, const std::string& leftFile) {
     replaced_.emplace(number, leftFile);
 }
 
+bool RecoveryWriter::HasFailed(int number) {
+    const std::scoped_lock lock(mutex_);
+    return failures_.contains(number);
+}
+
 void RecoveryWriter::Wait() {
     std::unique_lock lock(mutex_);
     changed_.wait(lock, [this] { return waiting_.empty() && !isBusy_; });
@@ -62,12 +67,23 @@ void RecoveryWriter::Do(int number, Task task) {
             folder_.Remove(number);
         }
     } catch (const FileError& error) {
-        if (!std::exchange(hasFailed_, true)) {
+        NoteOutcome(number, true);
+        if (!std::exchange(hasTold_, true)) {
             failed_(error.what());
         }
         return;
     }
+    NoteOutcome(number, false);
     DeleteReplaced(number);
+}
+
+void RecoveryWriter::NoteOutcome(int number, bool hasFailed) {
+    const std::scoped_lock lock(mutex_);
+    if (hasFailed) {
+        failures_.insert(number);
+    } else {
+        failures_.erase(number);
+    }
 }
 
 void RecoveryWriter::DeleteReplaced(int number) {

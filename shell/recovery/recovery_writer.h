@@ -5,6 +5,7 @@
 #include <functional>
 #include <map>
 #include <mutex>
+#include <set>
 #include <string>
 #include <thread>
 
@@ -28,6 +29,9 @@ class RecoveryWriter {
     /// `leftFile` is to be deleted as soon as `number` has been kept, or removed.
     void Replace(int number, const std::string& leftFile);
 
+    /// The last that was done for `number` came to nothing: it should be asked for again.
+    bool HasFailed(int number);
+
     /// Until all that was asked for is done.
     void Wait();
 
@@ -40,15 +44,17 @@ class RecoveryWriter {
 
     void Work(const std::stop_token& stop);
     void Do(int number, Task task);
+    void NoteOutcome(int number, bool hasFailed);
     void DeleteReplaced(int number);
 
     RecoveryFolder folder_;  // Of the thread alone.
     const std::function<void(const std::string&)> failed_;
-    bool hasFailed_ = false;  // Likewise.
+    bool hasTold_ = false;  // Likewise.
     std::mutex mutex_;
     std::condition_variable_any changed_;
     Tasks waiting_;
     std::multimap<int, std::string> replaced_;
+    std::set<int> failures_;
     bool isBusy_ = false;
     std::jthread thread_;  // Last: it uses all the others.
 };

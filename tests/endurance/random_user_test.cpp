@@ -8,7 +8,12 @@
 
 #include <QTest>
 #include <cstdio>
+#include <filesystem>
 
+#include "shell/form_names.h"
+#include "shell/recovery/offer_recovery.h"
+#include "shell/recovery/recovery.h"
+#include "shell/recovery/recovery_folder.h"
 #include "shell/window_kinds.h"
 #include "tests/endurance/watch_dog.h"
 #include "tests/support/windows_fixture.h"
@@ -48,6 +53,17 @@ void WriteLibrary(const TempFolder& folder) {
     folder.Write("quenloft.INI", "[Settings]\r\nLibpath=" + folder.Path("lib") + "\r\n");
 }
 
+/// A state folder with texts that a program left when it was killed.
+std::string LeftState(const TempFolder& folder) {
+    std::filesystem::create_directories(folder.Path("state"));
+    RecoveryFolder left(folder.Path("killed/unsaved"));
+    left.Keep(1, {form::kEdit, folder.Path("lib/s.spt"), "", 1'800'000'000, "another line\r\n"});
+    left.Keep(2, {form::kAuthor, "", "", 1'800'000'001, "{\\rtf1 Notes}"});
+    std::filesystem::copy(folder.Path("killed"), folder.Path("state"),
+                          std::filesystem::copy_options::recursive);
+    return folder.Path("state");
+}
+
 class RandomUsers : public testing::TestWithParam<int> {};
 
 TEST_P(RandomUsers, DoNoHarm) {
@@ -57,28 +73,22 @@ TEST_P(RandomUsers, DoNoHarm) {
     WatchDog watchDog;
     const TempFolder folder;
     WriteLibrary(folder);
-    LinuxFileSystem files;
-    LinuxProfileFile profile(files, folder.Path("quenloft"), folder.Path("config"));
-    SystemRandomSource random;
     RandomUser user(static_cast<unsigned>(seed), folder.Path("lib"));
-    FakeClipboard clipboard;
-    FakePrinter printer;
-    FakeDesktop desktop;
-    QtEngineHost host(user);
-    Engine engine(files, random, host);
-    frmMain window({engine, host, files, profile, user, clipboard, printer, desktop},
-                   MakeWindowKinds(random));
+    ProgramParts program(folder.Path(), user);
+    Recovery recovery(LeftState(folder), user);
+    frmMain window(program.Services(), MakeWindowKinds(program.random, &recovery));
     window.StartUp();
     window.resize(1280, 800);
     QApplication::setActiveWindow(&window);
+    OfferRecovery(window, recovery);
     for (int i = 0; i < (actions > 0 ? actions : kSome) && !HasFailure(); ++i) {
         const std::string action =
             "QUENLOFT_RANDOM_SEED=" + std::to_string(seed) + ", action " + std::to_string(i);
         SCOPED_TRACE(action);
         watchDog.Begin(action);
         user.Act(window);
-        printer.printed.clear();
-        printer.printedHtml.clear();
+        program.printer.printed.clear();
+        program.printer.printedHtml.clear();
     }
     if (actions > 0) {
         std::puts(user.Diary().c_str());

@@ -194,6 +194,8 @@ TEST_F(RecoveryTest, TellsOnceThatNothingCanBeKept) {
     first.recovery.Wait();
     QCoreApplication::processEvents();
     EXPECT_EQ(dialogs.TakeLog(), Log{});
+    std::filesystem::remove(folder.Path("state"));
+    EXPECT_TRUE(WaitForKept(folder.Path("state"), 1)) << "without another letter";
 }
 
 class RecoveryWindowTest : public RecoveryTest {
