@@ -8,14 +8,21 @@
 namespace quenloft {
 
 TreeMemory::TreeMemory(QTreeView& view, LibraryModel& model) : view_(view), model_(model) {
-    connect(&model, &QAbstractItemModel::rowsInserted, this,
-            [this](const QModelIndex& folder) { Restore(folder); });
+    connect(&model, &QAbstractItemModel::rowsInserted, this, [this](const QModelIndex& folder) {
+        // Queued: the view may be about to lay out the very rows that it asked for, and would do so
+        // twice if one of them were selected now.
+        QMetaObject::invokeMethod(
+            this, [this, folder = QPersistentModelIndex(folder)] { Restore(folder); },
+            Qt::QueuedConnection);
+    });
 }
 
 void TreeMemory::Remember() {
-    open_.clear();
+    // What is still to be restored since the last time stays so.
     RememberOpen(QModelIndex());
-    selected_ = view_.currentIndex().data(LibraryModel::PathRole).toString();
+    if (view_.currentIndex().isValid()) {
+        selected_ = view_.currentIndex().data(LibraryModel::PathRole).toString();
+    }
 }
 
 void TreeMemory::SelectWhenThere(const std::string& path) {
