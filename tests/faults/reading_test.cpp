@@ -47,7 +47,8 @@ TEST_F(EngineOnFaultyDisk, GivesAWholeResultOrSaysWhatFailed) {
             if (fault != &kBroken) {
                 EXPECT_EQ(result, whole);
             } else if (result != whole) {
-                EXPECT_EQ(result.find('x'), std::string::npos) << "a part of the table";
+                // The path of the folder may hold some.
+                EXPECT_EQ(result.find("xxxxxxxxxx"), std::string::npos) << "a part of the table";
                 EXPECT_NE(result.find(".tbl") == std::string::npos,
                           result.find(".spt") == std::string::npos)
                     << result;
