@@ -4,6 +4,7 @@
 #include <QTextBlock>
 
 #include "editors/importer/import_text.h"
+#include "editors/shared/unsaved_lines.h"
 #include "platform/dialogs.h"
 #include "platform/file_system.h"
 #include "platform/qt/qt_text.h"
@@ -110,12 +111,7 @@ void frmImportTable::Load(const std::string& path) {
 }
 
 std::optional<UnsavedWork> frmImportTable::Unsaved() const {
-    const QTextDocument& document = *ui_->txtOut->document();
-    if (!document.isModified() || (document.isEmpty() && file_.Path().empty())) {
-        return std::nullopt;
-    }
-    return UnsavedWork{file_.Path(), file_.Base(), static_cast<std::uint64_t>(document.revision()),
-                       [&document] { return LinesLater(document); }};
+    return UnsavedLines(*ui_->txtOut, file_);
 }
 
 void frmImportTable::PutBack(const KeptText& kept) {

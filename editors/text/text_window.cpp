@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "editors/shared/find_bar.h"
+#include "editors/shared/unsaved_lines.h"
 #include "editors/text/editor_text.h"
 #include "editors/text/script_report.h"
 #include "editors/text/text_search.h"
@@ -126,14 +127,7 @@ void frmEdit::Run() {
     }
 }
 
-std::optional<UnsavedWork> frmEdit::Unsaved() const {
-    const QTextDocument& document = *ui_->txtOut->document();
-    if (!document.isModified() || (document.isEmpty() && file_.Path().empty())) {
-        return std::nullopt;
-    }
-    return UnsavedWork{file_.Path(), file_.Base(), static_cast<std::uint64_t>(document.revision()),
-                       [&document] { return LinesLater(document); }};
-}
+std::optional<UnsavedWork> frmEdit::Unsaved() const { return UnsavedLines(*ui_->txtOut, file_); }
 
 void frmEdit::PutBack(const KeptText& kept) {
     file_.Resume(kept.path, kept.base);
