@@ -41,6 +41,11 @@ void WriteLibrary(const TempFolder& folder) {
                  "1\r\n1\xA7#..\\A#\r\n");
     folder.Write("lib/s.spt", "x=INC1\r\nIF x>3\r\nEND:\r\nEND IF\r\nA line #b#\r\n");
     folder.Write("lib/endless.spt", "LABEL:a\r\nGOTO:a\r\n");
+    // Long enough that somebody always interrupts them.
+    folder.Write("lib/long.tbl",
+                 "Long\xA4"
+                 "2\r\n1\xA7#b^100000000#\r\n2\xA7@10000000d6@#b#\r\n");
+    folder.Write("lib/deep/waits.spt", "LABEL:a\r\n#..\\a#\r\nGOTO:a\r\n");
     folder.Write("lib/ring.tbl",
                  "Ring\xA4"
                  "1\r\n1\xA7#ring#\r\n");
