@@ -207,10 +207,10 @@ QTextBlockFormat QtFormatOf(const ParagraphFormat& format) {
     return result;
 }
 
-ParagraphFormat ParagraphFormatOf(const QTextBlock& block) {
+ParagraphFormat ParagraphFormatOf(const QTextBlock& block, int itemsBefore) {
     const QTextBlockFormat format = block.blockFormat();
     ParagraphFormat result;
-    result.list = ListItemOf(block);
+    result.list = ListItemOf(block, itemsBefore);
     const bool isItem = result.list.kind != ListKind::None;
     const int levels = format.indent() + (isItem ? result.list.level + 1 : 0);
     result.alignment = AlignmentOf(format);
@@ -230,7 +230,7 @@ ParagraphFormat ParagraphFormatOf(const QTextBlock& block) {
     return result;
 }
 
-ListItem ListItemOf(const QTextBlock& block) {
+ListItem ListItemOf(const QTextBlock& block, int itemsBefore) {
     const QTextList* list = block.textList();
     if (!list) {
         return {};
@@ -247,7 +247,7 @@ ListItem ListItemOf(const QTextBlock& block) {
     for (const auto& [style, kind] : kKinds) {
         if (format.style() == style) {
             const int start = format.hasProperty(kListStart) ? format.intProperty(kListStart) : 1;
-            return {kind, level, std::min(start + list->itemNumber(block), kLargestListNumber)};
+            return {kind, level, std::min(start + itemsBefore, kLargestListNumber)};
         }
     }
     return {ListKind::Bullet, level, 0};

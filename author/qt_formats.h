@@ -18,10 +18,12 @@ CharFormat CharFormatOf(const QTextCharFormat& format);
 
 /// The paragraph's list is not in it, but its indent counts on that.
 QTextBlockFormat QtFormatOf(const ParagraphFormat& format);
-ParagraphFormat ParagraphFormatOf(const QTextBlock& block);
+/// `itemsBefore`: how many items of its list stand before `block`, from which its number follows.
+/// The toolkit would count them anew for each block.
+ParagraphFormat ParagraphFormatOf(const QTextBlock& block, int itemsBefore);
 
 /// The list that `block` is an item of; ListKind::None where it is of none.
-ListItem ListItemOf(const QTextBlock& block);
+ListItem ListItemOf(const QTextBlock& block, int itemsBefore = 0);
 /// A list of this kind and level that begins with item `start`.
 QTextListFormat ListFormatOf(ListKind kind, int level, int start = 1);
 /// How far a list stands in, for each of its levels; in pixels, for QTextDocument::setIndentWidth.

@@ -3,10 +3,12 @@
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
+#include <QTextFrame>
 #include <QTextList>
 #include <QTextTable>
 #include <algorithm>
 #include <array>
+#include <unordered_map>
 
 #include "author/qt_formats.h"
 #include "platform/qt/qt_text.h"
@@ -143,14 +145,33 @@ void AddText(Paragraph& paragraph, QString text, const CharFormat& format) {
     }
 }
 
-void AddRuns(Paragraph& paragraph, const QTextBlock& block) {
+/// The formats of a document's characters, of which notes use few again and again.
+class CharFormats {
+  public:
+    explicit CharFormats(const QTextDocument& document) : formats_(document.allFormats()) {}
+
+    /// `index` is that of a format in the document.
+    const CharFormat& At(int index) {
+        const auto [place, isNew] = known_.try_emplace(index);
+        if (isNew) {
+            place->second = CharFormatOf(formats_.at(index).toCharFormat());
+        }
+        return place->second;
+    }
+
+  private:
+    const QList<QTextFormat> formats_;
+    std::unordered_map<int, CharFormat> known_;
+};
+
+void AddRuns(Paragraph& paragraph, const QTextBlock& block, CharFormats& formats) {
     for (auto it = block.begin(); !it.atEnd(); ++it) {
         const QTextFragment fragment = it.fragment();
         if (fragment.isValid()) {
-            AddText(paragraph, fragment.text(), CharFormatOf(fragment.charFormat()));
+            AddText(paragraph, fragment.text(), formats.At(fragment.charFormatIndex()));
         }
     }
-    paragraph.endFormat = CharFormatOf(block.charFormat());
+    paragraph.endFormat = formats.At(block.charFormatIndex());
 }
 
 /// Where a block stands in a table; the same for the blocks of one cell.
@@ -216,20 +237,25 @@ void InsertText(const RichText& text, QTextCursor& cursor) {
 
 RichText TextOf(const QTextDocument& document) {
     RichText text;
+    CharFormats formats(document);
+    const bool hasTables = !document.rootFrame()->childFrames().isEmpty();
+    std::unordered_map<const QTextList*, int> itemCounts;
     CellPlace before;
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
-        const CellPlace place = CellOf(block);
+        const CellPlace place = hasTables ? CellOf(block) : CellPlace();
         const bool nextCell = IsNextCell(place, before);
+        const QTextList* list = block.textList();
+        const int itemsBefore = list ? itemCounts[list]++ : 0;
         const bool goesOn = nextCell || block.userState() == kGoesOn;
         if (!goesOn || text.paragraphs.empty()) {
             text.paragraphs.push_back(
-                {.format = ParagraphFormatOf(block), .runs = {}, .endFormat = {}});
+                {.format = ParagraphFormatOf(block, itemsBefore), .runs = {}, .endFormat = {}});
         }
         Paragraph& paragraph = text.paragraphs.back();
         if (nextCell) {
-            AddText(paragraph, QStringLiteral("\t"), CharFormatOf(block.charFormat()));
+            AddText(paragraph, QStringLiteral("\t"), formats.At(block.charFormatIndex()));
         }
-        AddRuns(paragraph, block);
+        AddRuns(paragraph, block, formats);
         before = place;
     }
     return text;
