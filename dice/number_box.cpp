@@ -1,5 +1,7 @@
 #include "dice/number_box.h"
 
+#include <QFocusEvent>
+
 namespace quenloft {
 namespace {
 
@@ -24,6 +26,13 @@ QSize NumberBox::sizeHint() const { return RoomFor(*this, QLineEdit::sizeHint(),
 
 QSize NumberBox::minimumSizeHint() const {
     return RoomFor(*this, QLineEdit::minimumSizeHint(), shortest_);
+}
+
+void NumberBox::focusInEvent(QFocusEvent* event) {
+    QLineEdit::focusInEvent(event);
+    if (event->reason() == Qt::OtherFocusReason) {
+        selectAll();
+    }
 }
 
 }  // namespace quenloft

@@ -17,6 +17,10 @@ class NumberBox : public QLineEdit {
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
+  protected:
+    /// Its number is there to be typed over when the window has just come to the front.
+    void focusInEvent(QFocusEvent* event) override;
+
   private:
     QString usual_ = QStringLiteral("00000000");
     QString shortest_ = QStringLiteral("0000");
