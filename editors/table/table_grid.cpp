@@ -177,6 +177,11 @@ void TableGrid::focusInEvent(QFocusEvent* event) {
 void TableGrid::keyPressEvent(QKeyEvent* event) {
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     const bool isAlone = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    constexpr auto kCommands = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+    const bool isCommand = event->modifiers() & kCommands;
+    if (model_.rowCount() == 0 && !isCommand && (isEnter || AsksToEdit(event))) {
+        AddRow(0);  // An empty table has no cell to type into.
+    }
     if (isEnter && isAlone && currentIndex().isValid()) {
         cellEditor_->StartEditing();
         return;
@@ -189,11 +194,23 @@ void TableGrid::mousePressEvent(QMouseEvent* event) {
     QTableView::mousePressEvent(event);
 }
 
+void TableGrid::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (model_.rowCount() == 0) {
+        InsertRow();
+    } else {
+        QTableView::mouseDoubleClickEvent(event);
+    }
+}
+
 void TableGrid::InsertRowAt(int row) {
     cellEditor_->CommitAndHide();
+    AddRow(row);
+    cellEditor_->StartEditing();
+}
+
+void TableGrid::AddRow(int row) {
     model_.EditRows({static_cast<std::size_t>(row), 0, {TableRow()}});
     GoTo(row, kFrequencyColumn);
-    cellEditor_->StartEditing();
 }
 
 void TableGrid::MoveSelected(int by) {

@@ -49,9 +49,12 @@ class TableGrid : public QTableView {
     void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
 
   private:
     void InsertRowAt(int row);
+    /// Puts an empty row there, which becomes the current one.
+    void AddRow(int row);
     void MoveSelected(int by);
     void MoveDragged(int row, int from, int to);
     SelectedCells Selected() const;

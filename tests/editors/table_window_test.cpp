@@ -122,6 +122,24 @@ TEST_F(TableWindowTest, MovesFromCellToCellAndStoresOnTheWay) {
     }
 }
 
+TEST_F(TableWindowTest, BeginsTheFirstRowWithAnyWayIntoACell) {
+    grid->setFocus();
+    Press(Qt::Key_3, Qt::AltModifier);
+    EXPECT_EQ(Rows(), "") << "a command";
+    Type("3");
+    Press(Qt::Key_Return);
+    EXPECT_EQ(Rows(), "3|\n");
+    Press(Qt::Key_Escape);
+    Press(Qt::Key_Delete, Qt::ControlModifier);
+    Press(Qt::Key_Return);
+    EXPECT_TRUE(box->isVisible());
+    Press(Qt::Key_Escape);
+    Press(Qt::Key_Delete, Qt::ControlModifier);
+    QTest::mouseDClick(grid->viewport(), Qt::LeftButton);
+    EXPECT_TRUE(box->isVisible());
+    EXPECT_EQ(Rows(), "|\n");
+}
+
 TEST_F(TableWindowTest, InsertsClearsRemovesAndMovesRows) {
     LoadOrcs();
     GoTo(1, 1);
