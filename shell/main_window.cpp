@@ -63,6 +63,8 @@ frmMain::frmMain(const ServiceSet& services, std::vector<WindowKind> windowKinds
     constexpr QSize kNormalSize(1000, 700);
     resize(kNormalSize);
     setCentralWidget(mdiArea_);
+    // Closing a window leads back to the one that was used before.
+    mdiArea_->setActivationOrder(QMdiArea::ActivationHistoryOrder);
     setAcceptDrops(true);
     BuildMenuBar();
     runIndicator_ = std::make_unique<RunIndicator>(*findChild<QAction*>("mnuAbort"), *statusBar());

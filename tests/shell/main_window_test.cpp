@@ -73,6 +73,16 @@ TEST_F(MainWindowTest, TheWindowListNumbersTheWindowsAndChecksTheActiveOne) {
     EXPECT_EQ(WindowList().last(), "*10 W&&11");
 }
 
+TEST_F(MainWindowTest, ClosingAWindowLeadsBackToTheOneBefore) {
+    for (int i = 0; i < 3; ++i) {
+        window.Open(form::kScript);
+    }
+    window.findChild<QMdiArea*>()->setActiveSubWindow(Frames()[1]);
+    window.Open(form::kEdit)->CloseUnasked();
+    LetWindowsClose();
+    EXPECT_EQ(window.findChild<QMdiArea*>()->activeSubWindow(), Frames()[1]);
+}
+
 TEST_F(MainWindowTest, ArrangeBringsMinimisedAndMaximisedWindowsBackToTheirPlaces) {
     for (int i = 0; i < 3; ++i) {
         window.Open(form::kScript);
