@@ -3,6 +3,7 @@
 // paths are native.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -11,6 +12,9 @@ namespace quenloft {
 
 enum class MessageIcon { None, Information, Warning };
 enum class Answer { Yes, No, Cancel };
+
+/// Asked several times a second while a box is shown: true closes the box without an answer.
+using GivenUp = std::function<bool()>;
 
 struct FontChoice {
     std::string name;
@@ -33,6 +37,20 @@ class Dialogs {
     virtual std::optional<std::string> AskText(const std::string& prompt,
                                                const std::string& defaultText,
                                                const std::string& title = {}) = 0;
+
+    // --- The boxes of a run. The windows stay usable beside them: a run that asks for ever could
+    // not be aborted otherwise. By themselves these are boxes like the others. ---
+
+    virtual void ShowMessageOfRun(const std::string& text, const GivenUp& /*givenUp*/) {
+        ShowMessage(text, MessageIcon::None);
+    }
+    virtual std::optional<std::string> AskTextOfRun(const std::string& prompt,
+                                                    const GivenUp& /*givenUp*/) {
+        return AskText(prompt, "");
+    }
+
+    // --- Files, folders and fonts. ---
+
     /// `filter` is a list of "Caption|pattern;pattern" pairs joined by "|"
     /// ("Table (*.tbl)|*.tbl|All files (*.*)|*.*"). Nothing on Cancel. `folder` is where to begin.
     virtual std::optional<std::string> ChooseFileToOpen(const std::string& filter,

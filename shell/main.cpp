@@ -79,6 +79,7 @@ int main(int argc, char* argv[]) {
     QtDesktop desktop;
     QtEngineHost host(dialogs);
     Engine engine(files, random, host);
+    host.CloseBoxesWhen([&engine] { return engine.IsAborted(); });
 
     const ServiceSet services{engine, host, files, profile, dialogs, clipboard, printer, desktop};
 

@@ -2,7 +2,6 @@
 
 #include <QCoreApplication>
 
-#include "platform/dialogs.h"
 #include "platform/linux/stack_left.h"
 
 namespace quenloft {
@@ -25,14 +24,11 @@ bool QtEngineHost::Yield() {
 }
 
 void QtEngineHost::ShowMessage(const std::string& text) {
-    dialogs_.ShowMessage(text, MessageIcon::None);
-    sinceEvents_.restart();
+    dialogs_.ShowMessageOfRun(text, aborted_);
 }
 
 std::string QtEngineHost::AskForText(const std::string& prompt) {
-    const std::string answer = dialogs_.AskText(prompt, "").value_or("");
-    sinceEvents_.restart();
-    return answer;
+    return dialogs_.AskTextOfRun(prompt, aborted_).value_or("");
 }
 
 std::size_t QtEngineHost::StackBytesLeft() { return quenloft::StackBytesLeft(); }

@@ -2,16 +2,19 @@
 #pragma once
 
 #include <QElapsedTimer>
+#include <utility>
 
 #include "engine/host.h"
+#include "platform/dialogs.h"
 
 namespace quenloft {
-
-class Dialogs;
 
 class QtEngineHost : public EngineHost {
   public:
     explicit QtEngineHost(Dialogs& dialogs);
+
+    /// `aborted` says whether the run that is going on is to end: its boxes close then.
+    void CloseBoxesWhen(GivenUp aborted) { aborted_ = std::move(aborted); }
 
     /// Processes events once the last turn of the event loop is 15 ms ago.
     bool Yield() override;
@@ -21,6 +24,7 @@ class QtEngineHost : public EngineHost {
 
   private:
     Dialogs& dialogs_;
+    GivenUp aborted_ = [] { return false; };
     QElapsedTimer sinceEvents_;
 };
 

@@ -1,6 +1,7 @@
 #include "platform/qt/qt_dialogs.h"
 
 #include <QApplication>
+#include <QEventLoop>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFontDialog>
@@ -8,6 +9,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMessageBox>
+#include <QTimer>
 
 #include "engine/program_title.h"
 #include "platform/qt/qt_file_filter.h"
@@ -19,6 +21,8 @@ namespace {
 // Longer texts go into a box that scrolls: a label of that size would leave the screen.
 constexpr qsizetype kLongestLabel = 1500;
 constexpr qsizetype kMostLabelLines = 25;
+
+constexpr int kMillisecondsBetweenLooks = 50;
 
 // No window is active while the program is in the background or has just lost the focus.
 QWidget* DialogParent() {
@@ -77,6 +81,35 @@ class YesNoBox : public QMessageBox {
     void closeEvent(QCloseEvent* /*event*/) override { done(QMessageBox::Cancel); }
 };
 
+/// As QDialog::exec, but the other windows stay usable; rejected once `givenUp` says true.
+int ExecBeside(QDialog& dialog, const GivenUp& givenUp) {
+    if (givenUp()) {
+        return QDialog::Rejected;
+    }
+    QEventLoop untilDone;
+    QObject::connect(&dialog, &QDialog::finished, &untilDone, &QEventLoop::exit);
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, &dialog, [&dialog, &givenUp] {
+        if (givenUp()) {
+            dialog.reject();
+        }
+    });
+    look.start(kMillisecondsBetweenLooks);
+    dialog.setModal(false);  // Message boxes are modal from the beginning.
+    dialog.show();
+    return untilDone.exec();
+}
+
+void SetUp(QInputDialog& dialog, const std::string& title, const std::string& prompt,
+           const std::string& defaultText) {
+    dialog.setWindowTitle(ToQt(title.empty() ? ProgramTitle() : title));
+    dialog.setLabelText(ToQt(prompt));
+    for (QLabel* label : dialog.findChildren<QLabel*>()) {
+        label->setTextFormat(Qt::PlainText);
+    }
+    dialog.setTextValue(ToQt(defaultText));
+}
+
 std::string ChosenFile(const QFileDialog& dialog) {
     return QFile::encodeName(dialog.selectedFiles().value(0)).toStdString();
 }
@@ -110,13 +143,25 @@ std::optional<std::string> QtDialogs::AskText(const std::string& prompt,
                                               const std::string& defaultText,
                                               const std::string& title) {
     QInputDialog dialog(DialogParent());
-    dialog.setWindowTitle(ToQt(title.empty() ? ProgramTitle() : title));
-    dialog.setLabelText(ToQt(prompt));
-    for (QLabel* label : dialog.findChildren<QLabel*>()) {
-        label->setTextFormat(Qt::PlainText);
-    }
-    dialog.setTextValue(ToQt(defaultText));
+    SetUp(dialog, title, prompt, defaultText);
     if (dialog.exec() != QDialog::Accepted) {
+        return std::nullopt;
+    }
+    return FromQt(dialog.textValue());
+}
+
+void QtDialogs::ShowMessageOfRun(const std::string& text, const GivenUp& givenUp) {
+    QMessageBox box(QMessageBox::NoIcon, ToQt(ProgramTitle()), QString(), QMessageBox::Ok,
+                    DialogParent());
+    SetBoxText(box, ToQt(text));
+    ExecBeside(box, givenUp);
+}
+
+std::optional<std::string> QtDialogs::AskTextOfRun(const std::string& prompt,
+                                                   const GivenUp& givenUp) {
+    QInputDialog dialog(DialogParent());
+    SetUp(dialog, {}, prompt, {});
+    if (ExecBeside(dialog, givenUp) != QDialog::Accepted) {
         return std::nullopt;
     }
     return FromQt(dialog.textValue());

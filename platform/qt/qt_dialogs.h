@@ -14,6 +14,9 @@ class QtDialogs : public Dialogs {
     Answer AskYesNoCancel(const std::string& text) override;
     std::optional<std::string> AskText(const std::string& prompt, const std::string& defaultText,
                                        const std::string& title = {}) override;
+    void ShowMessageOfRun(const std::string& text, const GivenUp& givenUp) override;
+    std::optional<std::string> AskTextOfRun(const std::string& prompt,
+                                            const GivenUp& givenUp) override;
     std::optional<std::string> ChooseFileToOpen(const std::string& filter,
                                                 const std::string& folder) override;
     std::optional<std::string> ChooseFileToSave(const std::string& filter, const std::string& path,

@@ -17,6 +17,7 @@
 #include "platform/qt/qt_clipboard.h"
 #include "platform/qt/qt_desktop.h"
 #include "platform/qt/qt_file_filter.h"
+#include "shell/qt_engine_host.h"
 #include "tests/support/temp_folder.h"
 
 namespace quenloft {
@@ -112,6 +113,30 @@ TEST_F(QtDialogsTest, ALineOfTextStartsWithTheDefault) {
     EXPECT_EQ(dialogs.AskText("<Name>", "New Folder", "Table Import"), "Gr\xC3\xBCn");
     InNext<QInputDialog>([](QInputDialog& dialog) { dialog.reject(); });
     EXPECT_EQ(dialogs.AskText("Name", ""), std::nullopt);
+}
+
+TEST_F(QtDialogsTest, BoxesOfARunHoldUpNothingElseAndCloseWhenItIsAborted) {
+    QtEngineHost host(dialogs);
+    bool aborted = false;
+    host.CloseBoxesWhen([&aborted] { return aborted; });
+    const auto abort = [&aborted] {
+        EXPECT_EQ(QApplication::topLevelWidgets().size(), 1);
+        EXPECT_FALSE(QApplication::activeModalWidget());
+        aborted = true;
+    };
+    QTimer::singleShot(0, abort);
+    host.ShowMessage("Beware!");
+    aborted = false;
+    QTimer::singleShot(0, [] {
+        auto* dialog = qobject_cast<QInputDialog*>(QApplication::topLevelWidgets().value(0));
+        ASSERT_TRUE(dialog);
+        dialog->setTextValue("Bryn");
+        dialog->accept();
+    });
+    EXPECT_EQ(host.AskForText("Who goes there?"), "Bryn");
+    QTimer::singleShot(0, abort);
+    EXPECT_EQ(host.AskForText("Who goes there?"), "");
+    host.ShowMessage("Not shown: the run is to end.");
 }
 
 TEST_F(QtDialogsTest, ANameWithoutExtensionGetsTheOneOfTheChosenFilter) {
