@@ -35,8 +35,12 @@ void RandomUser::Act(frmMain& window) {
     constexpr int kKeys = 94;
     constexpr int kCloses = 96;
     constexpr int kDrops = 97;
+    // Nobody keeps more open, and each one more makes all actions slower.
+    constexpr int kMostWindows = 25;
     const int what = Pick(100);
-    if (what < kMenus) {
+    if (window.findChild<QMdiArea*>()->subWindowList().size() > kMostWindows) {
+        CloseAWindow(window);
+    } else if (what < kMenus) {
         ChooseFromMenu(window);
     } else if (what < kClicks) {
         Click(AnyControl(window));
