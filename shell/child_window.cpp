@@ -91,8 +91,10 @@ void ChildWindow::MoveIntoView() {
     if (!frame || !frame->parentWidget()) {
         return;
     }
-    // The fixed places were chosen for larger screens than some users have.
-    const QSize room = frame->parentWidget()->size() - frame->size();
+    // The sizes were chosen for smaller fonts than some users have, the places for larger screens.
+    const QSize inside = frame->parentWidget()->size();
+    frame->resize(frame->size().expandedTo(frame->minimumSizeHint().boundedTo(inside)));
+    const QSize room = inside - frame->size();
     frame->move(qBound(0, frame->x(), qMax(0, room.width())),
                 qBound(0, frame->y(), qMax(0, room.height())));
 }

@@ -103,7 +103,8 @@ class ChildWindow : public QWidget {
   private:
     friend class GenerationRun;
     void EndRun();
-    /// Moves the frame to where all of it can be seen, as far as there is room.
+    /// Gives the frame the size that its controls need, and moves it to where all of it can be
+    /// seen, as far as there is room.
     void MoveIntoView();
 
     const TwipsPoint place_;
