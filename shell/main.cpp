@@ -1,6 +1,7 @@
 // Makes every part of the program once and hands it down.
 #include <QApplication>
 #include <QFile>
+#include <QPalette>
 #include <QStandardPaths>
 #include <clocale>
 #include <csignal>
@@ -47,6 +48,20 @@ void OutliveFailedWrites() {
     std::signal(SIGPIPE, SIG_IGN);
 }
 
+/// Dark themes that bring no colour for the hints in empty boxes leave them black.
+void MakeHintsReadable() {
+    constexpr int kHalf = 128;  // What the toolkit makes of a text's colour for hints.
+    QColor hint = QApplication::palette().color(QPalette::Text);
+    const bool isTextLight = hint.lightness() > kHalf;
+    if (isTextLight !=
+        (QApplication::palette().color(QPalette::PlaceholderText).lightness() > kHalf)) {
+        hint.setAlpha(kHalf);
+        QPalette mended;
+        mended.setColor(QPalette::PlaceholderText, hint);
+        QApplication::setPalette(mended);
+    }
+}
+
 }  // namespace
 
 int main(int argc, char* argv[]) {
@@ -59,6 +74,7 @@ int main(int argc, char* argv[]) {
     }
     // The toolkit takes the user's locale for numbers too; tables know only the full stop.
     std::setlocale(LC_NUMERIC, "C");
+    MakeHintsReadable();
     QApplication::setWindowIcon(ProgramIcon());
     QApplication::setDesktopFileName(QStringLiteral("quenloft"));
 
