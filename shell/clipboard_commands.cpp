@@ -7,6 +7,8 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QTextEdit>
+#include <algorithm>
+#include <string>
 
 #include "platform/clipboard.h"
 #include "platform/qt/qt_text.h"
@@ -30,6 +32,10 @@ constexpr OwnCommands kOwnCommands[] = {
 
 // Windows whose arrays of buttons stand for the output boxes that they fill.
 constexpr const char* kButtonsStandForBoxes[] = {form::kLists};
+
+// Windows of results: what they export is copied where no text box has the focus.
+constexpr const char* kListResults[] = {form::kDice, form::kProbability,
+                                        form::kShadowrunProbability, form::kDrovemark};
 
 void DoOwn(ChildWindow& child, void (ChildWindow::*OwnCommands::*command)()) {
     for (const OwnCommands& own : kOwnCommands) {
@@ -102,11 +108,16 @@ void CopyOrCutRich(QTextEdit& box, Clipboard& clipboard, bool cut) {
     }
 }
 
+void CopyResults(ChildWindow& child, Clipboard& clipboard) {
+    const std::string results =
+        std::ranges::count(kListResults, child.FormName()) > 0 ? child.Export() : std::string();
+    if (!results.empty()) {
+        clipboard.SetText(results);
+    }
+}
+
 void CopyOrCut(ChildWindow& child, Clipboard& clipboard, bool cut) {
     QWidget* control = child.focusWidget();
-    if (!control) {
-        return;
-    }
     if (QLineEdit* line = LineOf(control)) {
         CopyOrCutLine(*line, clipboard, cut);
     } else if (auto* box = qobject_cast<QPlainTextEdit*>(control)) {
@@ -115,6 +126,8 @@ void CopyOrCut(ChildWindow& child, Clipboard& clipboard, bool cut) {
         CopyOrCutRich(*rich, clipboard, cut);
     } else if (QPlainTextEdit* output = BoxOfButton(child, control)) {
         CopyOrCutWhole(*output, clipboard, cut);
+    } else if (!cut) {
+        CopyResults(child, clipboard);
     }
 }
 

@@ -8,8 +8,9 @@ namespace quenloft {
 class ChildWindow;
 class Clipboard;
 
-/// A text box without a selection counts as selected whole. Windows with a grid of their own then
-/// do their own part. `child` may be null: nothing happens.
+/// A text box without a selection counts as selected whole; Copy takes all that a window of dice
+/// has listed where no text box has the focus. Windows with a grid of their own then do their own
+/// part. `child` may be null: nothing happens.
 void CopyFrom(ChildWindow* child, Clipboard& clipboard);
 void CutFrom(ChildWindow* child, Clipboard& clipboard);
 void PasteInto(ChildWindow* child, Clipboard& clipboard);

@@ -92,6 +92,19 @@ TEST_F(ClipboardCommandsTest, TheTableEditorDoesItsOwnPartAfterTheTextBox) {
     EXPECT_EQ(child.asked, (Log{"copy", "cut", "paste"}));
 }
 
+TEST_F(ClipboardCommandsTest, ResultsAreCopiedWhereNoTextBoxHasTheFocus) {
+    RecordingWindow& child = Open(form::kDice);
+    Fill(*child.txtOut, "6");
+    child.exported = "1D6  = 6\r\n1D6  = 2";
+    Choose(window, "mnuEdit_Copy");
+    EXPECT_EQ(clipboard.text, "6");
+    child.button->setFocus();
+    Choose(window, "mnuEdit_Copy");
+    child.exported.clear();
+    Choose(window, "mnuEdit_Copy");
+    EXPECT_EQ(clipboard.text, "1D6  = 6\r\n1D6  = 2") << "no results are nothing to copy";
+}
+
 TEST_F(ClipboardCommandsTest, RichTextTakesPlainTextOnly) {
     auto* rich = new QTextEdit(&Open(form::kAuthor));
     rich->show();
