@@ -40,8 +40,8 @@ frmSettings::frmSettings(const ServiceSet& services, FontSettings& fonts, QWidge
 frmSettings::~frmSettings() = default;
 
 void frmSettings::BrowseLibrary() {
-    const auto folder =
-        services_.dialogs.ChooseFolder(kBrowseTitle, FromQt(ui_->txtLibPath->text()));
+    const auto folder = services_.dialogs.ChooseFolder(
+        kBrowseTitle, services_.files.NativePath(FromQt(ui_->txtLibPath->text())));
     if (folder && !folder->empty()) {
         ui_->txtLibPath->setText(ToQt(*folder));
     }

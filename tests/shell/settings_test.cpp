@@ -116,7 +116,7 @@ TEST_F(SettingsTest, ChoosingAFontFillsTheBoxesOnly) {
 
 TEST_F(SettingsTest, BrowsingReplacesThePathUnlessCancelled) {
     InDialog([this](frmSettings& dialog) {
-        Type(dialog, "txtLibPath", "/old");
+        Type(dialog, "txtLibPath", "Z:\\old");
         dialogs.WillGive("/new");
         Click(dialog, "btnBrowseLib");
         dialogs.WillCancel();
