@@ -42,13 +42,12 @@ class ScriptRun {
 void ScriptRun::Run(FileHandle& handle) {
     handle_ = &handle;
     handle.Rewind();
-    while (!handle.AtEnd() && !ended_) {
-        if (!interpreter_.TakeTurn()) {
-            AppendAbortedOnce(output);
-            break;
-        }
+    while (!handle.AtEnd() && !ended_ && interpreter_.TakeTurn()) {
         ReadLine();
         RunCurrentLine();
+    }
+    if (interpreter_.IsAborted()) {
+        AppendAbortedOnce(output);
     }
     if (!ended_ && output.ends_with(kLineBreak)) {
         output.resize(output.size() - kLineBreak.size());
@@ -134,7 +133,8 @@ bool ScriptRun::AnyHolds(std::string_view text) {
         [this](std::string_view part) {
             std::string condition(part);
             interpreter_.SubstituteVariables(condition);
-            return interpreter_.EvaluateExpr(condition).AsTruth();
+            // The text of an aborted run is no condition, and no error of the script.
+            return !interpreter_.IsAborted() && interpreter_.EvaluateExpr(condition).AsTruth();
         },
         [](bool left, bool right) { return left || right; });
 }
