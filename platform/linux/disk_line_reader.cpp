@@ -1,6 +1,10 @@
 #include "platform/linux/disk_line_reader.h"
 
+#include <cerrno>
+
+#include "platform/linux/file_failure.h"
 #include "platform/linux/file_reading.h"
+#include "platform/linux/path_translation.h"
 #include "platform/linux/text_lines.h"
 #include "platform/text_encoding.h"
 
@@ -10,6 +14,8 @@ namespace {
 
 /// A table's header fits into one; most readers want no more than that.
 constexpr std::size_t kBlock = 4096;
+/// What has no line end for so long is no text: a disk image must not fill the memory.
+constexpr std::size_t kLongestLine = std::size_t{1} << 20;
 
 }  // namespace
 
@@ -24,6 +30,9 @@ bool DiskLineReader::ReadBlock() {
     block_.erase(0, position_);
     position_ = 0;
     const std::size_t kept = block_.size();
+    if (kept > kLongestLine) {
+        throw SystemRefused(EFBIG, ShownNativePath(diskPath_));
+    }
     block_.resize(kept + kBlock);
     const std::size_t count = ReadSome(file_.Number(), block_.data() + kept, kBlock, diskPath_);
     block_.resize(kept + count);

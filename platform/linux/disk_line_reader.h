@@ -12,7 +12,7 @@ class DiskLineReader : public LineReader {
   public:
     /// Opens the file. Throws FileError.
     explicit DiskLineReader(const std::string& diskPath);
-    /// Throws FileError where the disk fails on the way.
+    /// Throws FileError where the disk fails on the way, and for a line of more than a megabyte.
     bool ReadLine(std::string& line) override;
 
   private:

@@ -25,6 +25,12 @@ void RefuseUnlessRegular(const struct stat& data, const std::string& diskPath) {
     }
 }
 
+void RefuseTooLarge(std::size_t size, const std::string& diskPath) {
+    if (size > kLargestFile) {
+        throw SystemRefused(EFBIG, ShownNativePath(diskPath));
+    }
+}
+
 }  // namespace
 
 FileDescriptor OpenForReading(const std::string& diskPath) {
@@ -58,14 +64,14 @@ std::string ReadToEnd(int file, const std::string& diskPath) {
     struct stat data {};
     std::string bytes;
     if (fstat(file, &data) == 0 && data.st_size > 0) {
+        const auto expected = static_cast<std::size_t>(data.st_size);
+        RefuseTooLarge(expected, diskPath);
         // One byte more than expected, so that the end is seen without growing.
-        bytes.resize(std::min(static_cast<std::size_t>(data.st_size), kLargestFile) + 1);
+        bytes.resize(expected + 1);
     }
     std::size_t length = 0;
     while (true) {
-        if (length > kLargestFile) {
-            throw SystemRefused(EFBIG, ShownNativePath(diskPath));
-        }
+        RefuseTooLarge(length, diskPath);
         if (length == bytes.size()) {
             bytes.resize(length + std::max(kBlock, length / 2));
         }

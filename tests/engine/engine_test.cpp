@@ -60,6 +60,7 @@ TEST_F(EngineRuns, AbortEndsEveryKindOfLoop) {
     WriteTable("never.tbl", "??DUPLICATESACCEPTED=0??#x^2# after");
     WriteTable("dice.tbl", "@400000000d1@ gold @400000000d1@ more");
     folder.Write("silent.spt", "LABEL:a\nGOTO:a\n");
+    folder.Write("asking.spt", "IF ??x=#empty.tbl#??1??y??\nEND IF\n");
     folder.Write("nested.spt", "before\n#silent.spt# and\nnever\n");
     WriteTable("nothing.tbl", "");
     WriteTable("empty.tbl", "#nothing^_1000000000#");
@@ -70,6 +71,7 @@ TEST_F(EngineRuns, AbortEndsEveryKindOfLoop) {
         {"silent.spt", "Process Aborted!"},
         {"empty.tbl", "Process Aborted!"},
         {"loud.tbl", "PROCESS ABORTED! and "},
+        {"asking.spt", "Process Aborted!"},
         {"nested.spt", "before\r\nProcess Aborted! and"},
     };
     for (const auto& [file, result] : cases) {
@@ -166,6 +168,7 @@ TEST_F(EngineRuns, TitlesAreReadWithoutRolling) {
         {"¤3\n", ""},
         {"no header\n", "!Invalid fileheader!"},
         {"", "!Invalid fileheader!"},
+        {std::string(2U << 20U, 'x') + "¤3\n", "!Invalid fileheader!"},  // No text file.
         {";only\n\n", "!Invalid fileheader!"},
     };
     for (const auto& [bytes, title] : cases) {
