@@ -21,6 +21,7 @@ namespace {
 // Longer texts go into a box that scrolls: a label of that size would leave the screen.
 constexpr qsizetype kLongestLabel = 1500;
 constexpr qsizetype kMostLabelLines = 25;
+constexpr qsizetype kWidestLabel = 80;
 
 constexpr int kMillisecondsBetweenLooks = 50;
 
@@ -40,22 +41,29 @@ QWidget* DialogParent() {
     return nullptr;
 }
 
-void SetBoxText(QMessageBox& box, QString text) {
-    text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
-    box.setTextFormat(Qt::PlainText);
+QString WithPlainLineEnds(const std::string& text) {
+    return ToQt(text).replace(QLatin1String("\r\n"), QLatin1String("\n"));
+}
+
+/// What a label shows of `text`.
+QString LabelText(const QString& text) {
     const QString head = text.section(u'\n', 0, kMostLabelLines - 1).left(kLongestLabel);
-    if (head.size() == text.size()) {
-        box.setText(text);
-        return;
+    return head.size() == text.size() ? text : head + QStringLiteral(" …");
+}
+
+void SetBoxText(QMessageBox& box, const std::string& text) {
+    const QString whole = WithPlainLineEnds(text);
+    box.setTextFormat(Qt::PlainText);
+    box.setText(LabelText(whole));
+    if (box.text() != whole) {
+        box.setDetailedText(whole);
     }
-    box.setText(head + QStringLiteral(" …"));
-    box.setDetailedText(text);
 }
 
 QMessageBox::StandardButton ShowBox(const std::string& text, QMessageBox::Icon icon,
                                     QMessageBox::StandardButtons buttons) {
     QMessageBox box(icon, ToQt(ProgramTitle()), QString(), buttons, DialogParent());
-    SetBoxText(box, ToQt(text));
+    SetBoxText(box, text);
     return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 
@@ -103,9 +111,10 @@ int ExecBeside(QDialog& dialog, const GivenUp& givenUp) {
 void SetUp(QInputDialog& dialog, const std::string& title, const std::string& prompt,
            const std::string& defaultText) {
     dialog.setWindowTitle(ToQt(title.empty() ? ProgramTitle() : title));
-    dialog.setLabelText(ToQt(prompt));
+    dialog.setLabelText(LabelText(WithPlainLineEnds(prompt)));
     for (QLabel* label : dialog.findChildren<QLabel*>()) {
         label->setTextFormat(Qt::PlainText);
+        label->setWordWrap(label->text().size() > kWidestLabel);  // By themselves only boxes wrap.
     }
     dialog.setTextValue(ToQt(defaultText));
 }
@@ -130,7 +139,7 @@ void QtDialogs::ShowMessage(const std::string& text, MessageIcon icon) {
 Answer QtDialogs::AskYesNo(const std::string& text) {
     YesNoBox box(QMessageBox::Question, ToQt(ProgramTitle()), QString(),
                  QMessageBox::Yes | QMessageBox::No, DialogParent());
-    SetBoxText(box, ToQt(text));
+    SetBoxText(box, text);
     return AnswerOf(box.exec());
 }
 
@@ -153,7 +162,7 @@ std::optional<std::string> QtDialogs::AskText(const std::string& prompt,
 void QtDialogs::ShowMessageOfRun(const std::string& text, const GivenUp& givenUp) {
     QMessageBox box(QMessageBox::NoIcon, ToQt(ProgramTitle()), QString(), QMessageBox::Ok,
                     DialogParent());
-    SetBoxText(box, ToQt(text));
+    SetBoxText(box, text);
     ExecBeside(box, givenUp);
 }
 

@@ -86,6 +86,12 @@ TEST_F(QtDialogsTest, ATextThatWouldLeaveTheScreenIsThereInFull) {
         box.accept();
     });
     dialogs.ShowMessage(text.toStdString(), MessageIcon::None);
+    InNext<QInputDialog>([](QInputDialog& dialog) {
+        EXPECT_LT(dialog.width(), 1000);
+        EXPECT_GT(dialog.height(), 200);
+        dialog.reject();
+    });
+    dialogs.AskText(QString("a long prompt ").repeated(100).toStdString(), "");
 }
 
 TEST_F(QtDialogsTest, QuestionsTakeClosingForNoAnswer) {
