@@ -37,6 +37,35 @@ void SetUpDocument(QTextDocument& document, QPrinter& printer) {
     document.setPageSize(page);
 }
 
+// Laying out a paragraph takes a time that grows with the square of its length: a longer one than
+// this becomes several.
+constexpr qsizetype kLongestParagraph = 4096;
+
+// Up to the last blank of `head`, if there is one.
+qsizetype PieceLength(QStringView head) {
+    const qsizetype words = head.lastIndexOf(u' ') + 1;
+    const bool splitsLetter = head.back().isHighSurrogate();
+    return words > 0 ? words : head.size() - (splitsLetter ? 1 : 0);
+}
+
+QString InShortParagraphs(QString text) {
+    text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    QString result;
+    result.reserve(text.size() + text.size() / kLongestParagraph);
+    for (QStringView rest = text; !rest.isEmpty();) {
+        const QStringView head = rest.left(kLongestParagraph);
+        const qsizetype lineLength = head.indexOf(u'\n') + 1;
+        const bool isLong = lineLength == 0 && rest.size() > head.size();
+        const qsizetype length = isLong           ? PieceLength(head)
+                                 : lineLength > 0 ? lineLength
+                                                  : head.size();
+        result += rest.left(length);
+        result += QLatin1String(isLong ? "\n" : "");
+        rest = rest.mid(length);
+    }
+    return result;
+}
+
 // The layout brings all lengths to the size of the paper but those from left to right.
 void BringMarginsToPaper(QTextDocument& document, const QPrinter& printer) {
     constexpr double kDotsOfHtml = 96;
@@ -93,7 +122,8 @@ bool QtPrinter::ChoosePrinter() {
 }
 
 std::string QtPrinter::PrintText(const std::string& text) {
-    return Print([&text](QTextDocument& document) { document.setPlainText(ToQt(text)); });
+    return Print(
+        [&text](QTextDocument& document) { document.setPlainText(InShortParagraphs(ToQt(text))); });
 }
 
 std::string QtPrinter::PrintHtml(const std::string& html) {
