@@ -19,7 +19,8 @@ std::string AddText(const std::string& typed) {
 
 }  // namespace
 
-void RollTimes(Dice& dice, const DiceRequest& request, ReportLines& lines, std::string& result) {
+void RollTimes(Dice& dice, const DiceRequest& request, const std::function<bool()>& goOn,
+               ReportLines& lines, std::string& result) {
     const std::string beforeResult = request.count + "D" + request.faces + AddText(request.add) +
                                      (request.openEnded ? "~ = " : "  = ");
     const std::int32_t times = NumericValue(request.times);
@@ -30,8 +31,12 @@ void RollTimes(Dice& dice, const DiceRequest& request, ReportLines& lines, std::
     const std::int32_t faces = NumericValue(request.faces);
     const std::int32_t add = NumericValue(request.add);
     for (std::int32_t i = 0; i < times; ++i) {
-        result = std::to_string(dice.RollDicePool(count, faces, add, request.openEnded,
-                                                  /*useEntropy=*/false, 0));
+        const std::int32_t total =
+            dice.RollDicePool(count, faces, add, request.openEnded, /*useEntropy=*/false, 0);
+        if (!goOn()) {
+            return;
+        }
+        result = std::to_string(total);
         lines.Add(beforeResult + result);
     }
 }

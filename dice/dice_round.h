@@ -20,7 +20,9 @@ struct DiceRequest {
 };
 
 /// Adds a line for each roll ("3D6+2~ = 17") and puts the last result into `result`; both stay as
-/// they are where nothing is rolled. Throws Failure "Overflow"; the lines until then stay.
-void RollTimes(Dice& dice, const DiceRequest& request, ReportLines& lines, std::string& result);
+/// they are where nothing is rolled. Asks `goOn` after each roll; false ends it there, and the roll
+/// does not count. Throws Failure "Overflow". The lines until then stay.
+void RollTimes(Dice& dice, const DiceRequest& request, const std::function<bool()>& goOn,
+               ReportLines& lines, std::string& result);
 
 }  // namespace quenloft

@@ -1,6 +1,7 @@
 // The dice roller: N dice of F faces and an amount, a number of times.
 #pragma once
 
+#include <QElapsedTimer>
 #include <memory>
 
 #include "engine/dice.h"
@@ -13,7 +14,8 @@ namespace Ui {
 class frmDice;
 }
 
-/// Rolling and the form of the lines are RollTimes' part.
+/// Rolling and the form of the lines are RollTimes' part. Millions of dice take their time, so
+/// events are processed meanwhile, and the run can be aborted.
 class frmDice : public ChildWindow {
     Q_OBJECT
 
@@ -29,8 +31,14 @@ class frmDice : public ChildWindow {
     void Roll();
     void Clear();
 
+    /// What the boxes ask for; empty, or the words of a failure.
+    std::string RollUntilAborted();
+    /// Lets events through in a long run; false once it is to end.
+    bool GoOnRolling();
+
     std::unique_ptr<Ui::frmDice> ui_;
     Dice dice_;
+    QElapsedTimer sinceStart_;  // Of the rolls that are going on.
 };
 
 }  // namespace quenloft

@@ -89,7 +89,8 @@ TEST_F(Analyses, ReseedTheGeneratorInTheirOwnWays) {
          "5 die 5 die "},
         {"the dice roller: once for each roll",
          [&] {
-             RollTimes(dice, {"2", "6", "0", "2", false}, lines, result);
+             RollTimes(
+                 dice, {"2", "6", "0", "2", false}, [] { return true; }, lines, result);
          },
          "timer die die timer die die "},
     };

@@ -44,7 +44,8 @@ class DiceRound : public testing::Test {
     /// The lines, and in front of them what a failed roll said.
     std::vector<std::string> Roll(const DiceRequest& request) {
         ReportLines lines;
-        const std::string failure = FailureOf([&] { RollTimes(dice, request, lines, result); });
+        const std::string failure =
+            FailureOf([&] { RollTimes(dice, request, goOn, lines, result); });
         std::vector<std::string> all = lines.Take();
         if (failure != "none") {
             all.insert(all.begin(), failure);
@@ -54,7 +55,8 @@ class DiceRound : public testing::Test {
 
     ConstantRandom random;  // Each die shows a 1.
     FakeHost host;
-    Dice dice{random, host, [] { return true; }};
+    static bool goOn() { return true; }
+    Dice dice{random, host, goOn};
     std::string result = "0";
 };
 

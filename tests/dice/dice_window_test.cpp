@@ -101,6 +101,15 @@ TEST_F(DiceWindow, ShowsAFailureAndStaysUsable) {
     EXPECT_EQ(child->Export(), "1D0~ = 0");
 }
 
+TEST_F(DiceWindow, EndsRollsOfMillionsOfDiceWhenAborted) {
+    Type("txtNrDice", "2000000000");
+    Type("txtDiceType", "1");
+    QTimer::singleShot(0, [this] { window.AbortRun(); });
+    Click("btnRoll");
+    EXPECT_EQ(child->Export() + Text("txtResult").toStdString(), "0") << "half a roll is none";
+    EXPECT_FALSE(QApplication::overrideCursor() || window.IsRunning());
+}
+
 TEST_F(DiceWindow, DoesNotRollWhileARunGoesOn) {
     window.EnableAbort();
     Click("btnRoll");
