@@ -4,6 +4,7 @@
 #include <QShortcut>
 
 #include "author/rtf_writer.h"
+#include "platform/clipboard.h"
 #include "platform/dialogs.h"
 #include "platform/file_system.h"
 #include "platform/printer.h"
@@ -80,6 +81,12 @@ void frmAuthor::PrintContent() {
         services.printer.PrintHtml(FromQt(ui_->rtfAuthor->document()->toHtml()));
     if (!failure.empty()) {
         services.dialogs.ShowMessage(failure, MessageIcon::Warning);
+    }
+}
+
+void frmAuthor::Paste() {
+    if (focusWidget() == ui_->rtfAuthor) {
+        ui_->rtfAuthor->PasteText(ToQt(workspace_.Services().clipboard.GetText()));
     }
 }
 

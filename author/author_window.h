@@ -26,6 +26,8 @@ class frmAuthor : public ChildWindow {
     void OpenFile() override;
     void Load(const std::string& path) override;
     void PrintContent() override;
+    /// The text without its form.
+    void Paste() override;
     /// As RTF.
     std::optional<UnsavedWork> Unsaved() const override;
     void PutBack(const KeptText& kept) override;

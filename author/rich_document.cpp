@@ -1,5 +1,6 @@
 #include "author/rich_document.h"
 
+#include <QRegularExpression>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -17,13 +18,15 @@ namespace quenloft {
 namespace {
 
 // Laying out a word takes a time that grows with the square of its length. Longer ones stand in
-// several blocks, marked by this state, that are one paragraph again on their way out. Long
+// several blocks, marked by a property, that are one paragraph again on their way out. Long
 // paragraphs of ordinary words are parted far more seldom, at a blank.
 constexpr qsizetype kLongestWord = 4096;
 constexpr qsizetype kLongestBlock = 65536;
 // Each change of form inside of a word makes it as slow as so many more characters do.
 constexpr qsizetype kCharactersOfRun = 16;
-constexpr int kGoesOn = 1;
+// A property and no state of the block: copies keep it, and what is undone and done again. Those
+// before it are of qt_formats.
+constexpr int kGoesOn = QTextFormat::UserProperty + 3;
 
 /// Joins items that count on to lists.
 class ListMaker {
@@ -89,10 +92,7 @@ class RunInserter {
         Count(cursor.block().text().left(cursor.positionInBlock()));
     }
 
-    void Insert(const TextRun& run) {
-        const QTextCharFormat format = QtFormatOf(run.format);
-        const QString text = ToQt(run.text);
-        QStringView rest(text);
+    void Insert(QStringView rest, const QTextCharFormat& format) {
         while (!rest.isEmpty()) {
             const QStringView piece = rest.left(PieceLength(rest, lastWord_, inBlock_));
             cursor_.insertText(piece.toString(), format);
@@ -115,8 +115,8 @@ class RunInserter {
         QTextBlockFormat goesOn = cursor_.blockFormat();
         goesOn.clearProperty(QTextFormat::ObjectIndex);  // One item has one number.
         goesOn.clearProperty(QTextFormat::PageBreakPolicy);
+        goesOn.setProperty(kGoesOn, true);
         cursor_.insertBlock(goesOn);
-        cursor_.block().setUserState(kGoesOn);
         lastWord_ = 0;
         inBlock_ = 0;
     }
@@ -228,11 +228,35 @@ void InsertText(const RichText& text, QTextCursor& cursor) {
         }
         RunInserter inserter(cursor);
         for (const TextRun& run : paragraph.runs) {
-            inserter.Insert(run);
+            inserter.Insert(ToQt(run.text), QtFormatOf(run.format));
         }
         isFirst = false;
     }
     cursor.endEditBlock();
+}
+
+void InsertPlainText(const QString& text, QTextCursor& cursor) {
+    // All that the document would take for the end of a block.
+    static const QRegularExpression kParagraphEnd(
+        QStringLiteral("\\r\\n|[\\r\\n\\x{2029}\\x{FDD0}\\x{FDD1}]"));
+    const QTextCharFormat format = cursor.charFormat();
+    cursor.beginEditBlock();
+    cursor.removeSelectedText();
+    bool isFirst = true;
+    for (const QStringView line : QStringView(text).split(kParagraphEnd)) {
+        if (!isFirst) {
+            cursor.insertBlock(NextParagraph(cursor.blockFormat()), format);
+        }
+        RunInserter(cursor).Insert(line, format);
+        isFirst = false;
+    }
+    cursor.endEditBlock();
+}
+
+QTextBlockFormat NextParagraph(QTextBlockFormat format) {
+    format.clearProperty(QTextFormat::PageBreakPolicy);
+    format.clearProperty(kGoesOn);
+    return format;
 }
 
 RichText TextOf(const QTextDocument& document) {
@@ -246,7 +270,7 @@ RichText TextOf(const QTextDocument& document) {
         const bool nextCell = IsNextCell(place, before);
         const QTextList* list = block.textList();
         const int itemsBefore = list ? itemCounts[list]++ : 0;
-        const bool goesOn = nextCell || block.userState() == kGoesOn;
+        const bool goesOn = nextCell || block.blockFormat().boolProperty(kGoesOn);
         if (!goesOn || text.paragraphs.empty()) {
             text.paragraphs.push_back(
                 {.format = ParagraphFormatOf(block, itemsBefore), .runs = {}, .endFormat = {}});

@@ -3,6 +3,8 @@
 
 #include "author/rich_text.h"
 
+class QString;
+class QTextBlockFormat;
 class QTextCursor;
 class QTextDocument;
 
@@ -19,6 +21,13 @@ void ShowText(const RichText& text, QTextDocument& document);
 /// unless that is empty; an empty item of a list remains one, unless `text` begins with a list of
 /// several paragraphs itself.
 void InsertText(const RichText& text, QTextCursor& cursor);
+
+/// Puts `text` in the place of the selection, in the form that is there. CR LF, LF and CR end
+/// paragraphs.
+void InsertPlainText(const QString& text, QTextCursor& cursor);
+
+/// The form of a paragraph that is begun at the end of one of this form: not on a new page.
+QTextBlockFormat NextParagraph(QTextBlockFormat format);
 
 /// What the document shows, every font and size named. Pictures are left out; cells of a table are
 /// parted by tabs, its rows are paragraphs.

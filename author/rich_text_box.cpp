@@ -101,6 +101,12 @@ void RichTextBox::SetText(const RichText& text) {
     moveCursor(QTextCursor::Start);
 }
 
+void RichTextBox::PasteText(const QString& text) {
+    QTextCursor cursor = textCursor();
+    InsertPlainText(text, cursor);
+    ensureCursorVisible();
+}
+
 void RichTextBox::ChangeFormat(const QTextCharFormat& change) { mergeCurrentCharFormat(change); }
 
 void RichTextBox::ChangeColor(const Color& color) {
@@ -160,16 +166,13 @@ void RichTextBox::keyPressEvent(QKeyEvent* event) {
         LeaveBackwards();
         return;
     }
-    const int blocks = document()->blockCount();
+    const bool isEnter = event->matches(QKeySequence::InsertParagraphSeparator);
     QTextEdit::keyPressEvent(event);
     QTextCursor cursor = textCursor();
-    if (document()->blockCount() > blocks &&
-        cursor.blockFormat().pageBreakPolicy() != QTextFormat::PageBreak_Auto) {
-        // A paragraph that goes on on the same page inherits all but the new page.
-        QTextBlockFormat format = cursor.blockFormat();
-        format.clearProperty(QTextFormat::PageBreakPolicy);
+    if (const QTextBlockFormat format = cursor.blockFormat();
+        isEnter && NextParagraph(format) != format) {
         cursor.joinPreviousEditBlock();
-        cursor.setBlockFormat(format);
+        cursor.setBlockFormat(NextParagraph(format));
         cursor.endEditBlock();
     }
 }
@@ -241,7 +244,7 @@ void RichTextBox::insertFromMimeData(const QMimeData* source) {
     } else if (source->hasHtml()) {
         InsertText(TextOfPage(source->html()), cursor);
     } else {
-        insertPlainText(source->text());
+        InsertPlainText(source->text(), cursor);
     }
     ensureCursorVisible();
 }

@@ -20,6 +20,9 @@ class RichTextBox : public QTextEdit {
     /// undo.
     void SetText(const RichText& text);
 
+    /// In the place of the selection, in the form that is there.
+    void PasteText(const QString& text);
+
     /// Of the text that is typed next, or of the whole selection.
     void ChangeFormat(const QTextCharFormat& change);
     /// The automatic colour where there is none.

@@ -28,6 +28,7 @@ struct OwnCommands {
 };
 constexpr OwnCommands kOwnCommands[] = {
     {form::kEditTable, &ChildWindow::Copy, &ChildWindow::Cut, &ChildWindow::Paste},
+    {form::kAuthor, &ChildWindow::Copy, &ChildWindow::Cut, &ChildWindow::Paste},
 };
 
 // Windows whose arrays of buttons stand for the output boxes that they fill.
@@ -142,10 +143,6 @@ void PasteText(QWidget* control, const QString& text) {
     } else if (auto* box = qobject_cast<QPlainTextEdit*>(control)) {
         if (!box->isReadOnly()) {
             InsertText(*box, text);
-        }
-    } else if (auto* rich = qobject_cast<QTextEdit*>(control)) {
-        if (!rich->isReadOnly()) {
-            rich->insertPlainText(text);
         }
     }
 }

@@ -112,6 +112,13 @@ TEST(RichDocument, OneEndlessWordDoesNotHoldUpTheWindow) {
     EXPECT_GT(document.blockCount(), 4) << "changes of form are slow as well";
     ShowText(OneRun("word " + std::string(4000, 'y') + std::string(60'000, ' ')), document);
     EXPECT_EQ(document.blockCount(), 1) << "ordinary text";
+    QTextCursor cursor(&document);
+    InsertPlainText(QString(20'000, u'z') + QStringLiteral("\r\nz"), cursor);
+    const RichText pasted = TextOf(document);
+    EXPECT_EQ(pasted.paragraphs.size(), 2U);
+    document.undo();
+    document.redo();
+    EXPECT_EQ(TextOf(document), pasted);
 }
 
 TEST(RichDocument, AnInsertionContinuesTheParagraphAtTheCursor) {

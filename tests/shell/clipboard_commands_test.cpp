@@ -1,7 +1,5 @@
 #include "shell/clipboard_commands.h"
 
-#include <QTextEdit>
-
 #include "tests/support/recording_window.h"
 #include "tests/support/windows_fixture.h"
 
@@ -103,15 +101,6 @@ TEST_F(ClipboardCommandsTest, ResultsAreCopiedWhereNoTextBoxHasTheFocus) {
     child.exported.clear();
     Choose(window, "mnuEdit_Copy");
     EXPECT_EQ(clipboard.text, "1D6  = 6\r\n1D6  = 2") << "no results are nothing to copy";
-}
-
-TEST_F(ClipboardCommandsTest, RichTextTakesPlainTextOnly) {
-    auto* rich = new QTextEdit(&Open(form::kAuthor));
-    rich->show();
-    rich->setFocus();
-    clipboard.text = "<i>plain</i>";
-    Choose(window, "mnuEdit_Paste");
-    EXPECT_EQ(rich->toPlainText(), "<i>plain</i>");
 }
 
 TEST_F(ClipboardCommandsTest, WithoutAWindowNothingHappens) {
