@@ -31,8 +31,8 @@ class ReferenceList {
 
     explicit ReferenceList(Engine& engine);
 
-    /// Lists the folder of `place` as it is on disk now. `showHidden`: also what begins with "~",
-    /// and what the system hides. A folder that cannot be listed is empty and has a Failure().
+    /// Lists the folder of `place` as it is on disk now. `showHidden`: also what begins with "~".
+    /// A folder that cannot be listed is empty and has a Failure().
     void Fill(const ReferencePlace& place, bool showHidden);
     /// A sentence without a final stop; empty when all went well.
     const std::string& Failure() const { return failure_; }
