@@ -1,6 +1,7 @@
 #include "shell/child_window.h"
 
 #include <QCloseEvent>
+#include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMetaObject>
 #include <QPointer>
@@ -42,6 +43,17 @@ std::optional<UnsavedWork> ChildWindow::Unsaved() const { return std::nullopt; }
 
 void ChildWindow::PutBack(const KeptText& /*kept*/) {}
 
+void ChildWindow::BringToFront() {
+    auto* frame = qobject_cast<QMdiSubWindow*>(parentWidget());
+    if (!frame || !frame->mdiArea()) {
+        return;
+    }
+    if (frame->isMinimized()) {
+        frame->showNormal();
+    }
+    frame->mdiArea()->setActiveSubWindow(frame);
+}
+
 void ChildWindow::CloseWindow() {
     if (auto* frame = qobject_cast<QMdiSubWindow*>(parentWidget())) {
         frame->close();
@@ -80,6 +92,7 @@ void ChildWindow::closeEvent(QCloseEvent* event) {
 }
 
 bool ChildWindow::SaveOrGiveUp(const std::string& question, const std::function<bool()>& save) {
+    BringToFront();  // The user must see what the question is about.
     // The window may go while the question stands.
     const QPointer<ChildWindow> self(this);
     const Answer answer = workspace_.Services().dialogs.AskYesNoCancel(question);

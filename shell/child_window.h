@@ -62,6 +62,9 @@ class ChildWindow : public QWidget {
     /// The output box that the focused `control`, one of an array of buttons, stands for.
     virtual QPlainTextEdit* OutputBoxOf(const QWidget& control);
 
+    /// Makes it the active window, whatever state it is in.
+    void BringToFront();
+
     // --- What other windows ask of one that they opened. Paths are library or native paths. ---
 
     /// Lets the user choose a file and loads it.

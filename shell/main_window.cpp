@@ -145,12 +145,8 @@ ChildWindow* frmMain::Open(std::string_view formName) {
         child = kind->make(*this);
         AddChild(*child);
     }
-    auto* frame = qobject_cast<QMdiSubWindow*>(child->parentWidget());
-    if (frame->isMinimized()) {
-        frame->showNormal();
-    }
-    frame->show();
-    mdiArea_->setActiveSubWindow(frame);
+    child->parentWidget()->show();
+    child->BringToFront();
     return child;
 }
 

@@ -1,8 +1,6 @@
 #include "editors/table/table_window.h"
 
 #include <QKeyEvent>
-#include <QMdiArea>
-#include <QMdiSubWindow>
 #include <QShortcut>
 #include <QStyle>
 #include <cmath>
@@ -457,15 +455,10 @@ bool frmEdit_Table::IsUndoOfTable(const QObject* watched, const QKeyEvent& key) 
 }
 
 ChildWindow* frmEdit_Table::OpenList() {
-    if (!list_) {
+    if (list_) {
+        list_->BringToFront();
+    } else {
         list_ = workspace_.Open(form::kSingleList);
-        return list_;
-    }
-    if (auto* frame = qobject_cast<QMdiSubWindow*>(list_->parentWidget())) {
-        if (frame->isMinimized()) {
-            frame->showNormal();
-        }
-        frame->mdiArea()->setActiveSubWindow(frame);
     }
     return list_;
 }

@@ -32,17 +32,6 @@ namespace {
 
 constexpr TwipsPoint kPlace{4605, 2880};
 
-void BringToFront(const ChildWindow& window) {
-    auto* frame = qobject_cast<QMdiSubWindow*>(window.parentWidget());
-    if (!frame || !frame->mdiArea()) {
-        return;
-    }
-    if (frame->isMinimized()) {
-        frame->showNormal();
-    }
-    frame->mdiArea()->setActiveSubWindow(frame);
-}
-
 }  // namespace
 
 frmEdit::frmEdit(Workspace& workspace, ReferenceChooser chooser)
@@ -140,7 +129,6 @@ bool frmEdit::AskToSave() {
     if (!ui_->txtOut->document()->isModified()) {
         return true;
     }
-    BringToFront(*this);
     return SaveOrGiveUp(kSaveBeforeClosing, [this] { return Save(); });
 }
 
@@ -251,7 +239,7 @@ void frmEdit::Open(const std::string& path) {
         if (IsPristine()) {
             CloseUnasked();
         }
-        BringToFront(*other);
+        other->BringToFront();
         return;
     }
     Read(path);
@@ -304,7 +292,7 @@ bool frmEdit::IsSavedToRun() {
 ChildWindow* frmEdit::OpenRunner() {
     const char* formName = IsTablePath(file_.Path()) ? form::kSingleList : form::kScript;
     if (runner_ && runner_->FormName() == formName) {
-        BringToFront(*runner_);
+        runner_->BringToFront();
     } else {
         runner_ = workspace_.Open(formName);
     }
@@ -321,7 +309,7 @@ void frmEdit::ShowReport(const std::string& output) {
             ui_->lblReport->setText(message);
             ui_->lblReport->show();
             ui_->txtOut->MarkLine(report.line, message);
-            BringToFront(*this);
+            BringToFront();
             ui_->txtOut->setFocus();
             return;
         }

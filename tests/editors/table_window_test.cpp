@@ -294,11 +294,17 @@ TEST_F(TableWindowTest, AsksBeforeWorkIsLost) {
     Type("6");
     const std::function<void()> waysOut[] = {[this] { editor->CloseWindow(); },
                                              [this] { Click("btnOpen"); },
-                                             [this] { Press(Qt::Key_F5); }};
+                                             [this] { Press(Qt::Key_F5); },
+                                             [this] {
+                                                 window.Open(form::kSingleList);
+                                                 window.close();
+                                             }};
     for (const auto& leave : waysOut) {
         dialogs.WillAnswer(Answer::Cancel);
         leave();
         EXPECT_EQ(dialogs.TakeLog(), Log{kQuestion});
+        EXPECT_EQ(window.findChild<QMdiArea*>()->activeSubWindow()->widget(), editor)
+            << "the user sees which table it is";
         EXPECT_EQ(Rows(), "6|A\n10|B\n|more\n5|C\n");
     }
     dialogs.WillAnswer(Answer::Yes);
