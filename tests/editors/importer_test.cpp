@@ -85,25 +85,6 @@ TEST_F(ImporterTest, AnOpenedFileStaysBesideItsTable) {
         << "what was opened, not the first try";
 }
 
-TEST_F(ImporterTest, NothingLeavesUnasked) {
-    Type("sword\n");
-    const std::function<void()> waysOut[] = {[this] { importer->CloseWindow(); },
-                                             [this] { Click("btnNew"); },
-                                             [this] { Click("btnOpen"); }};
-    for (const auto& leave : waysOut) {
-        dialogs.WillAnswer(Answer::Cancel);
-        leave();
-        dialogs.WillAnswer(Answer::Yes);
-        dialogs.WillCancel();
-        leave();
-        EXPECT_EQ(dialogs.TakeLog().front(),
-                  "yes, no or cancel: Do You want to save the text as a table ?");
-        EXPECT_EQ(text->Text(), "sword\r\n");
-        EXPECT_EQ(Caption(), "Table Importer*");
-        EXPECT_TRUE(importer->isVisible());
-    }
-}
-
 TEST_F(ImporterTest, NewAsksAboutTheFileAndCanBeUndone) {
     const std::string path = folder.Write("a.txt", "a\nb\n");
     importer->Load(path);
@@ -120,22 +101,6 @@ TEST_F(ImporterTest, NewAsksAboutTheFileAndCanBeUndone) {
     EXPECT_EQ(Caption(), "Table Importer*");
     EXPECT_EQ(folder.Read("a.txt"), "a\nb\n");
     importer->CloseUnasked();
-}
-
-TEST_F(ImporterTest, AFileThatCannotBeReadOrWrittenChangesNothing) {
-    Type("sword\n");
-    dialogs.WillConfirm();
-    importer->Load(folder.Path("missing.txt"));
-    dialogs.WillGive(folder.Path("missing/loot.tbl"));
-    dialogs.WillGive("Loot");
-    dialogs.WillConfirm();
-    Click("btnSaveAs");
-    EXPECT_EQ(Caption(), "Table Importer*");
-    EXPECT_EQ(text->Text(), "sword\r\n");
-    const auto log = dialogs.TakeLog();
-    EXPECT_EQ(log.front(), "warning: Errors in table " + folder.Path("missing.txt") +
-                               "\r\nFile not found: " + folder.Path("missing.txt") + ".");
-    EXPECT_EQ(log.back(), "warning: Path not found: " + folder.Path("missing/loot.tbl") + ".");
 }
 
 }  // namespace

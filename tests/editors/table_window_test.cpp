@@ -69,7 +69,6 @@ class TableWindowTest : public WindowsFixture {
     }
 
     const std::string kOrcs = InCodePage("Orcs¤20??X??\r\n\r\n5§A\r\n15§B\r\nmore\r\n20§C\r\n");
-    static constexpr char kQuestion[] = "yes, no or cancel: Table not saved!\r\nSave table now?";
 
     std::string reference;
     std::string referenceFolder;
@@ -288,32 +287,6 @@ TEST_F(TableWindowTest, KeepsTheCellOpenWhileAnotherWindowHasTheFocus) {
     EXPECT_TRUE(editor->isWindowModified());
 }
 
-TEST_F(TableWindowTest, AsksBeforeWorkIsLost) {
-    LoadOrcs();
-    GoTo(0, 0);
-    Type("6");
-    const std::function<void()> waysOut[] = {[this] { editor->CloseWindow(); },
-                                             [this] { Click("btnOpen"); },
-                                             [this] { Press(Qt::Key_F5); },
-                                             [this] {
-                                                 window.Open(form::kSingleList);
-                                                 window.close();
-                                             }};
-    for (const auto& leave : waysOut) {
-        dialogs.WillAnswer(Answer::Cancel);
-        leave();
-        EXPECT_EQ(dialogs.TakeLog(), Log{kQuestion});
-        EXPECT_EQ(window.findChild<QMdiArea*>()->activeSubWindow()->widget(), editor)
-            << "the user sees which table it is";
-        EXPECT_EQ(Rows(), "6|A\n10|B\n|more\n5|C\n");
-    }
-    dialogs.WillAnswer(Answer::Yes);
-    EXPECT_TRUE(editor->AskToSave());
-    EXPECT_EQ(folder.Read("orcs.tbl").substr(0, 7), InCodePage("Orcs¤21"));
-    EXPECT_TRUE(editor->AskToSave()) << "nothing to ask about";
-    dialogs.TakeLog();
-}
-
 TEST_F(TableWindowTest, NewAlwaysAsksAndKeepsATableThatIsNotSaved) {
     LoadOrcs();
     dialogs.WillAnswer(Answer::Cancel);
@@ -374,17 +347,6 @@ TEST_F(TableWindowTest, KeepsAFileBesideTheNewOneThatSaysLess) {
               "weight 0 they become further lines of the entries above. Save the table so?");
     Click("btnSave");
     EXPECT_EQ(folder.Read("old.tbl~"), former) << "the second time nothing is lost";
-}
-
-TEST_F(TableWindowTest, KeepsWhatItShowsWhenAFileCannotBeRead) {
-    LoadOrcs();
-    dialogs.WillConfirm();
-    const std::string path = folder.Path("missing.tbl");
-    editor->Load(path);
-    EXPECT_EQ(Rows(), "5|A\n10|B\n|more\n5|C\n");
-    EXPECT_EQ(editor->windowTitle(), "Table Editor (..\\orcs.tbl)[*]");
-    EXPECT_EQ(dialogs.TakeLog(),
-              Log{"warning: Errors in table " + path + "\r\nFile not found: " + path + "."});
 }
 
 TEST_F(TableWindowTest, RunsTheSavedTableInTheSameListEachTime) {

@@ -4,19 +4,15 @@
 #include <QAction>
 #include <QApplication>
 #include <QDialog>
-#include <QDragEnterEvent>
-#include <QDropEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
-#include <QMimeData>
 #include <QTest>
 #include <QUrl>
 #include <filesystem>
 #include <fstream>
 
-#include "engine/engine.h"
-#include "shell/main_window.h"
+#include "tests/support/windows_fixture.h"
 
 namespace quenloft {
 
@@ -29,31 +25,26 @@ RandomUser::RandomUser(unsigned seed, std::string folder)
 
 void RandomUser::Act(frmMain& window) {
     // How often each is done, out of a hundred.
-    constexpr int kMenus = 15;
-    constexpr int kClicks = 55;
-    constexpr int kTexts = 75;
-    constexpr int kKeys = 94;
-    constexpr int kCloses = 96;
-    constexpr int kDrops = 97;
+    const std::pair<int, std::function<void()>> deeds[] = {
+        {15, [&] { ChooseFromMenu(window); }},
+        {40, [&] { Click(AnyControl(window)); }},
+        {20, [&] { Type(AnyControl(window)); }},
+        {19, [&] { PressKey(AnyControl(window)); }},
+        {2, [&] { CloseAWindow(window); }},
+        {1, [&] { DropAFile(window, AnyControl(window)); }},
+        {3, [&] { ChangeAFile(); }},
+    };
     // Nobody keeps more open, and each one more makes all actions slower.
     constexpr int kMostWindows = 25;
-    const int what = Pick(100);
     if (window.findChild<QMdiArea*>()->subWindowList().size() > kMostWindows) {
         CloseAWindow(window);
-    } else if (what < kMenus) {
-        ChooseFromMenu(window);
-    } else if (what < kClicks) {
-        Click(AnyControl(window));
-    } else if (what < kTexts) {
-        Type(AnyControl(window));
-    } else if (what < kKeys) {
-        PressKey(AnyControl(window));
-    } else if (what < kCloses) {
-        CloseAWindow(window);
-    } else if (what < kDrops) {
-        DropAFile(window, AnyControl(window));
-    } else {
-        ChangeAFile();
+    }
+    int left = Pick(100);
+    for (const auto& [share, act] : deeds) {
+        if (left >= 0 && left < share) {
+            act();
+        }
+        left -= share;
     }
     QCoreApplication::processEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -191,30 +182,16 @@ void RandomUser::Type(QWidget* control) {
 }
 
 void RandomUser::PressKey(QWidget* control) {
-    constexpr struct {
-        Qt::Key key;
-        Qt::KeyboardModifier modifier;
-    } kKeys[] = {
-        {Qt::Key_Return, Qt::NoModifier},    {Qt::Key_Tab, Qt::NoModifier},
-        {Qt::Key_Escape, Qt::NoModifier},    {Qt::Key_F5, Qt::NoModifier},
-        {Qt::Key_F2, Qt::NoModifier},        {Qt::Key_Insert, Qt::NoModifier},
-        {Qt::Key_Delete, Qt::NoModifier},    {Qt::Key_Delete, Qt::ControlModifier},
-        {Qt::Key_Up, Qt::AltModifier},       {Qt::Key_Down, Qt::AltModifier},
-        {Qt::Key_Up, Qt::NoModifier},        {Qt::Key_Down, Qt::NoModifier},
-        {Qt::Key_Down, Qt::ShiftModifier},   {Qt::Key_PageDown, Qt::NoModifier},
-        {Qt::Key_Home, Qt::ControlModifier}, {Qt::Key_End, Qt::ControlModifier},
-        {Qt::Key_A, Qt::ControlModifier},    {Qt::Key_C, Qt::ControlModifier},
-        {Qt::Key_X, Qt::ControlModifier},    {Qt::Key_V, Qt::ControlModifier},
-        {Qt::Key_Z, Qt::ControlModifier},    {Qt::Key_S, Qt::ControlModifier},
-        {Qt::Key_F, Qt::ControlModifier},    {Qt::Key_H, Qt::ControlModifier},
-        {Qt::Key_B, Qt::ControlModifier},    {Qt::Key_F3, Qt::NoModifier},
-        {Qt::Key_Backspace, Qt::NoModifier}, {Qt::Key_W, Qt::ControlModifier},
-    };
+    const char* keys[] = {"Return",     "Tab",      "Esc",       "F5",       "F2",     "Ins",
+                          "Del",        "Ctrl+Del", "Alt+Up",    "Alt+Down", "Up",     "Down",
+                          "Shift+Down", "PgDown",   "Ctrl+Home", "Ctrl+End", "Ctrl+A", "Ctrl+C",
+                          "Ctrl+X",     "Ctrl+V",   "Ctrl+Z",    "Ctrl+S",   "Ctrl+F", "Ctrl+H",
+                          "Ctrl+B",     "F3",       "Backspace", "Ctrl+W"};
     if (control) {
         control->setFocus();
-        const auto& key = kKeys[Pick(static_cast<int>(std::size(kKeys)))];
+        const QKeySequence key(QLatin1String(keys[Pick(static_cast<int>(std::size(keys)))]));
         if (QWidget* focus = QApplication::focusWidget()) {
-            QTest::keyClick(focus, key.key, key.modifier);
+            QTest::keySequence(focus, key);
         }
     }
 }
@@ -243,17 +220,9 @@ void RandomUser::ChangeAFile() {
 }
 
 void RandomUser::DropAFile(frmMain& window, QWidget* control) {
-    QMimeData data;
-    data.setUrls({QUrl::fromLocalFile(QString::fromStdString(AnyFile()))});
-    const QPointer<QWidget> target = control && OneIn(2) ? control : &window;
+    QWidget* target = control && OneIn(2) ? control : &window;
     Note(target == &window ? "drop on the main window" : "drop on a control");
-    const QPoint place = target->rect().center();
-    QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(target, &enter);
-    if (enter.isAccepted() && target) {
-        QDropEvent drop(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(target, &drop);
-    }
+    Drop(*target, {QUrl::fromLocalFile(QString::fromStdString(AnyFile()))});
 }
 
 void RandomUser::Attend() {

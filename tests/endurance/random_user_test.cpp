@@ -22,33 +22,23 @@ namespace quenloft {
 namespace {
 
 int FromEnvironment(const char* name, int otherwise) {
-    bool isNumber = false;
-    const int number = qEnvironmentVariableIntValue(name, &isNumber);
-    return isNumber ? number : otherwise;
+    return qEnvironmentVariableIsSet(name) ? qEnvironmentVariableIntValue(name) : otherwise;
 }
 
 void WriteLibrary(const TempFolder& folder) {
-    folder.Write("lib/a.tbl",
-                 "A\xA4"
-                 "3??x=x+1??\r\n1\xA7one\r\n2\xA7"
-                 "2 #b^3#\r\n;comment\r\n3\xA7@2d6@ ??x??|more\r\n");
-    folder.Write("lib/b.tbl",
-                 "B\xA4"
-                 "2\r\n1\xA7"
-                 "b\r\nmore b\r\n2\xA7#s.spt#\r\n");
-    folder.Write("lib/deep/c.tbl",
-                 "C\xA4"
-                 "1\r\n1\xA7#..\\A#\r\n");
-    folder.Write("lib/s.spt", "x=INC1\r\nIF x>3\r\nEND:\r\nEND IF\r\nA line #b#\r\n");
-    folder.Write("lib/endless.spt", "LABEL:a\r\nGOTO:a\r\n");
-    // Long enough that somebody always interrupts them.
-    folder.Write("lib/long.tbl",
-                 "Long\xA4"
-                 "2\r\n1\xA7#b^100000000#\r\n2\xA7@10000000d6@#b#\r\n");
-    folder.Write("lib/deep/waits.spt", "LABEL:a\r\n#..\\a#\r\nGOTO:a\r\n");
-    folder.Write("lib/ring.tbl",
-                 "Ring\xA4"
-                 "1\r\n1\xA7#ring#\r\n");
+    const std::pair<const char*, const char*> files[] = {
+        {"a.tbl", "A¤3??x=x+1??\r\n1§one\r\n2§2 #b^3#\r\n;comment\r\n3§@2d6@ ??x??|more\r\n"},
+        {"b.tbl", "B¤2\r\n1§b\r\nmore b\r\n2§#s.spt#\r\n"},
+        {"deep/c.tbl", "C¤1\r\n1§#..\\A#\r\n"},
+        {"s.spt", "x=INC1\r\nIF x>3\r\nEND:\r\nEND IF\r\nA line #b#\r\n"},
+        {"ring.tbl", "Ring¤1\r\n1§#ring#\r\n"},
+        {"endless.spt", "LABEL:a\r\nGOTO:a\r\n"},
+        // Long enough that somebody always interrupts them.
+        {"long.tbl", "Long¤2\r\n1§#b^100000000#\r\n2§@10000000d6@#b#\r\n"},
+        {"deep/waits.spt", "LABEL:a\r\n#..\\a#\r\nGOTO:a\r\n"}};
+    for (const auto& [name, text] : files) {
+        folder.Write(std::string("lib/") + name, InCodePage(text));
+    }
     folder.Write("lib/notes.rtf", "{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}\\b Bold\\b0  not\\par}");
     folder.Write("lib/broken.tbl", std::string("\0\xFF\xFE"
                                                "\r\r\n\n5\xA7\xA7\xA4??",
@@ -75,7 +65,6 @@ TEST_P(RandomUsers, DoNoHarm) {
     const int seed = FromEnvironment("QUENLOFT_RANDOM_SEED", GetParam());
     constexpr int kSome = 300;
     const int actions = FromEnvironment("QUENLOFT_RANDOM_ACTIONS", 0);
-    WatchDog watchDog;
     const TempFolder folder;
     WriteLibrary(folder);
     RandomUser user(static_cast<unsigned>(seed), folder.Path("lib"));
@@ -90,7 +79,7 @@ TEST_P(RandomUsers, DoNoHarm) {
         const std::string action =
             "QUENLOFT_RANDOM_SEED=" + std::to_string(seed) + ", action " + std::to_string(i);
         SCOPED_TRACE(action);
-        watchDog.Begin(action);
+        WatchAction(action);
         user.Act(window);
         program.printer.printed.clear();
         program.printer.printedHtml.clear();

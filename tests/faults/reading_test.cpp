@@ -1,14 +1,10 @@
 // A disk that fails while something is read: all of it comes, or a sentence; never a part.
-#include <QLineEdit>
 #include <chrono>
 #include <filesystem>
 
-#include "author/rich_text_box.h"
-#include "editors/text/code_box.h"
 #include "platform/linux/file_stamp.h"
 #include "shell/child_window.h"
 #include "shell/form_names.h"
-#include "shell/text_box.h"
 #include "shell/window_kinds.h"
 #include "tests/faults/faulty_disk.h"
 #include "tests/support/engine_fixture.h"
@@ -110,40 +106,29 @@ class EditorsOnFaultyDisk : public WindowsFixture {
 TEST_F(EditorsOnFaultyDisk, KeepWhatTheyShowWhereAFileCannotBeRead) {
     const struct {
         const char* form;
-        std::string old;
-        std::string fresh;
-        std::function<std::string(ChildWindow&)> shown;
+        const char* box;
+        const char* shown;           ///< The property of the box.
+        std::string before, behind;  ///< The text in the file.
     } cases[] = {
-        {form::kEdit, "old", "new",
-         [](ChildWindow& child) { return child.findChild<CodeBox*>()->Lines(); }},
-        {form::kEditTable,
-         "old\xA4"
-         "1\r\n",
-         "new\xA4"
-         "1\r\n",
-         [](ChildWindow& child) {
-             return child.findChild<QLineEdit*>("txtTitle")->text().toStdString();
-         }},
-        {form::kImportTable, "old", "new",
-         [](ChildWindow& child) {
-             return child.findChild<TextBox*>("txtOut")->toPlainText().trimmed().toStdString();
-         }},
-        {form::kAuthor, "{\\rtf1 old}", "{\\rtf1 new}",
-         [](ChildWindow& child) {
-             return child.findChild<RichTextBox*>()->toPlainText().toStdString();
-         }},
+        {form::kEdit, "txtOut", "plainText", "", ""},
+        {form::kEditTable, "txtTitle", "text", "", InCodePage("¤1\r\n")},
+        {form::kImportTable, "txtOut", "plainText", "", ""},
+        {form::kAuthor, "rtfAuthor", "plainText", "{\\rtf1 ", "}"},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.form);
-        folder.Write("old.txt", c.old);
-        folder.Write("new.txt", c.fresh);
+        folder.Write("old.txt", c.before + "old" + c.behind);
+        folder.Write("new.txt", c.before + "new" + c.behind);
         ChildWindow* child = window.Open(c.form);
+        const auto shown = [&, box = child->findChild<QWidget*>(c.box)] {
+            return box->property(c.shown).toString().trimmed();
+        };
         bool hasStruck = true;
         for (int number = 1; hasStruck; ++number) {
             SCOPED_TRACE(number);
             ASSERT_LT(number, kMostCalls);
             child->Load(folder.Path("old.txt"));
-            ASSERT_EQ(c.shown(*child), "old");
+            ASSERT_EQ(shown(), "old");
             dialogs.TakeLog();
             {
                 const FaultyDisk disk(folder.Path(), kBroken, number);
@@ -151,7 +136,7 @@ TEST_F(EditorsOnFaultyDisk, KeepWhatTheyShowWhereAFileCannotBeRead) {
                 hasStruck = disk.HasStruck();
             }
             const auto log = dialogs.TakeLog();
-            EXPECT_EQ(c.shown(*child), log.empty() ? "new" : "old");
+            EXPECT_EQ(shown(), log.empty() ? "new" : "old");
             EXPECT_FALSE(child->isWindowModified());
             if (!log.empty()) {
                 EXPECT_EQ(log.size(), 1U);

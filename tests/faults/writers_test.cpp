@@ -12,20 +12,17 @@
 
 #include "author/rich_text_box.h"
 #include "editors/text/code_box.h"
-#include "editors/toolbox/quick_tables.h"
 #include "explorer/library_model.h"
 #include "generators/slot_page.h"
 #include "platform/qt/qt_printer.h"
 #include "shell/child_window.h"
 #include "shell/font_settings.h"
 #include "shell/form_names.h"
-#include "shell/recent_files.h"
 #include "shell/recovery/kept_text.h"
 #include "shell/recovery/recovery_folder.h"
 #include "shell/sample_library.h"
 #include "shell/settings_dialog.h"
 #include "shell/text_box.h"
-#include "shell/window_geometry.h"
 #include "shell/window_kinds.h"
 #include "tests/faults/faulty_disk.h"
 #include "tests/support/windows_fixture.h"
@@ -102,7 +99,7 @@ class Writers : public WindowsFixture {
         });
         return log;
     }
-    void Write(const Writer& writer) {
+    static void Write(const Writer& writer) {
         writer.write();
         QCoreApplication::processEvents();
     }
@@ -111,21 +108,12 @@ class Writers : public WindowsFixture {
     void TryAll(const Writer& writer);
     void TryFault(const Writer& writer, const Fault& fault);
     void CheckOne(const Writer& writer, const Fault& fault, const Files& before);
-    void CheckMessage(const std::string& message, const Fault& fault) const;
 
     // --- Drivers ---
 
     Writer WindowWriter(ChildWindow* child, std::function<void(int)> change,
                         std::function<void()> write) {
         return {std::move(change), std::move(write), [child] { return child->isWindowModified(); }};
-    }
-    Writer ExportOf(const char* form) {
-        return {[this, form](int) { window.Open(form); },
-                [this] {
-                    dialogs.WillGive(folder.Path("export.txt"));
-                    Choose(window, "mnuFile_Export");
-                },
-                {}};
     }
     Writer SettingsOf(std::function<void(int)> change, std::function<void()> save) {
         folder.Write("quenloft.INI", "; mine\r\n[Other]\r\nkey=value\r\n");
@@ -172,8 +160,10 @@ void Writers::CheckOne(const Writer& writer, const Fault& fault, const Files& be
     const std::vector<std::string> messages = TakeMessages();
     const bool isDone = messages.empty();
     ASSERT_LE(messages.size(), 1U) << messages[0] << "\n" << messages[1];
-    if (!isDone) {
-        CheckMessage(messages[0], fault);
+    for (const std::string& message : messages) {
+        EXPECT_NE(message.find(folder.Path() + "/"), std::string::npos) << message;
+        EXPECT_NE(message.find(std::strerror(fault.error)), std::string::npos) << message;
+        EXPECT_TRUE(message.ends_with(".")) << message;
     }
     if (writer.isChanged) {
         EXPECT_EQ(writer.isChanged(), !isDone);
@@ -195,37 +185,13 @@ void Writers::CheckOne(const Writer& writer, const Fault& fault, const Files& be
     EXPECT_TRUE(!isDone || after == done) << "it did not happen, and nobody was told";
 }
 
-void Writers::CheckMessage(const std::string& message, const Fault& fault) const {
-    EXPECT_NE(message.find(folder.Path() + "/"), std::string::npos) << message;
-    EXPECT_NE(message.find(std::strerror(fault.error)), std::string::npos) << message;
-    EXPECT_TRUE(message.ends_with(".")) << message;
-}
-
 TEST_F(Writers, TextEditor) {
     ChildWindow* editor = window.Open(form::kEdit);
     auto* box = editor->findChild<CodeBox*>();
-    editor->Load(folder.Write("a.tbl",
-                              "T\xA4"
-                              "1\r\n1\xA7old\r\n"));
+    editor->Load(folder.WriteTable("a.tbl", "T", "old"));
     TryAll(WindowWriter(
         editor, [box](int number) { box->insertPlainText(QString::number(number)); },
         [editor] { Click(*editor, "btnSave"); }));
-}
-
-TEST_F(Writers, TextEditorIntoANewFile) {
-    ChildWindow* editor = window.Open(form::kEdit);
-    auto* box = editor->findChild<CodeBox*>();
-    const std::string path = folder.Path("new.spt");
-    TryAll(WindowWriter(
-        editor,
-        [&](int) {
-            std::filesystem::remove(path);
-            box->insertPlainText(QStringLiteral("x"));
-        },
-        [&] {
-            dialogs.WillGive(path);
-            Click(*editor, "btnSaveAs");
-        }));
 }
 
 TEST_F(Writers, TableEditorThatKeepsTheFormerFile) {
@@ -234,10 +200,8 @@ TEST_F(Writers, TableEditorThatKeepsTheFormerFile) {
         editor,
         [&](int number) {
             std::filesystem::remove(folder.Path("a.tbl~"));
-            editor->Load(folder.Write("a.tbl", ";about " + std::to_string(number) +
-                                                   "\nT\xA4"
-                                                   "1\n\n1\xA7"
-                                                   "A\n"));
+            editor->Load(
+                folder.Write("a.tbl", InCodePage(";" + std::to_string(number) + "\nT¤1\n\n1§A\n")));
             editor->findChild<QLineEdit*>("txtTitle")->setText(QString::number(number));
         },
         [editor] { Click(*editor, "btnSave"); }));
@@ -268,12 +232,14 @@ TEST_F(Writers, Author) {
             [box] { return box->document()->isModified(); }});
 }
 
-TEST_F(Writers, Exports) {
-    for (const char* name : {form::kEdit, form::kEditTable, form::kScript, form::kLists,
-                             form::kSingleList, form::kProbability, form::kDice, form::kExplorer}) {
-        SCOPED_TRACE(name);
-        TryAll(ExportOf(name));
-    }
+TEST_F(Writers, Export) {
+    window.Open(form::kDice);
+    TryAll({[](int) {},
+            [this] {
+                dialogs.WillGive(folder.Path("export.txt"));
+                Choose(window, "mnuFile_Export");
+            },
+            {}});
 }
 
 TEST_F(Writers, AnalysisReport) {
@@ -324,29 +290,6 @@ TEST_F(Writers, SlotsOfTheListPage) {
             }
         },
         [&] { page.Save(files, profile); }));
-}
-
-TEST_F(Writers, SlotsOfTheToolbox) {
-    QuickTables tables;
-    TryAll(SettingsOf(
-        [&](int number) {
-            for (int slot = 0; slot < 3; ++slot) {
-                tables.Bind(slot, engine, folder.LibraryPath(std::to_string(number) + ".tbl"));
-            }
-        },
-        [&] { tables.Save(profile); }));
-}
-
-TEST_F(Writers, RecentFiles) {
-    RecentFiles recent(profile);
-    TryAll(SettingsOf([&](int number) { recent.Add(folder.Path(std::to_string(number) + ".tbl")); },
-                      [&] { recent.Save(); }));
-}
-
-TEST_F(Writers, PlaceOfTheMainWindow) {
-    constexpr int kWidth = 500;
-    TryAll(SettingsOf([&](int number) { window.resize(kWidth + number % 100, kWidth); },
-                      [&] { SaveWindowGeometry(window, profile); }));
 }
 
 TEST_F(Writers, KeptTexts) {
@@ -422,10 +365,9 @@ TEST_F(Writers, CopyOfTheSampleLibrary) {
         EXPECT_LE(messages.size(), 1U);
         const bool isDone = messages.empty();
         for (const auto& [path, bytes] : Snapshot()) {
-            const std::size_t home = path.find("/home/Quenloft library/");
-            EXPECT_TRUE(home == std::string::npos || path.ends_with('/') ||
-                        bytes == (path.ends_with("a.tbl") ? "one table" : "one script"))
-                << path;
+            if (path.find("/home/") != std::string::npos && !path.ends_with('/')) {
+                EXPECT_EQ(bytes, path.ends_with("a.tbl") ? "one table" : "one script") << path;
+            }
         }
         const std::string copy = folder.Path("home/Quenloft library");
         EXPECT_EQ(

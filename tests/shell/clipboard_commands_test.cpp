@@ -103,13 +103,5 @@ TEST_F(ClipboardCommandsTest, ResultsAreCopiedWhereNoTextBoxHasTheFocus) {
     EXPECT_EQ(clipboard.text, "1D6  = 6\r\n1D6  = 2") << "no results are nothing to copy";
 }
 
-TEST_F(ClipboardCommandsTest, WithoutAWindowNothingHappens) {
-    clipboard.text = "before";
-    for (const char* command : {"mnuEdit_Cut", "mnuEdit_Copy", "mnuEdit_Paste"}) {
-        Choose(window, command);
-    }
-    EXPECT_EQ(clipboard.text, "before");
-}
-
 }  // namespace
 }  // namespace quenloft

@@ -130,13 +130,6 @@ TEST_F(MainWindowTest, ClosingTheProgramStopsAtCancel) {
     EXPECT_EQ(window.InsertionTarget(), nullptr);
 }
 
-TEST_F(MainWindowTest, TheInsertionTargetGoesAwayWithItsWindow) {
-    auto* target = new QLineEdit(&window);
-    window.SetInsertionTarget(target);
-    delete target;
-    EXPECT_EQ(window.InsertionTarget(), nullptr);
-}
-
 TEST_F(MainWindowTest, TheAbortCommandIsThereDuringARunOnly) {
     auto* abort = window.findChild<QAction*>("mnuAbort");
     window.Open(form::kScript);
@@ -223,14 +216,6 @@ TEST_F(MainWindowTest, StartUpEntersTheLibraryWhereThereIsOne) {
         started.StartUp();
         EXPECT_EQ(files.CurrentDirectory(), expected) << path;
     }
-}
-
-TEST_F(WindowsFixture, AnEndlessRunSeesTheAbortCommand) {
-    folder.Write("endless.spt", "LABEL:again\r\nGOTO:again\r\n");
-    // The event loop has its turn inside the run, or this never comes.
-    QMetaObject::invokeMethod(
-        qApp, [this] { engine.SetAbortFlag(); }, Qt::QueuedConnection);
-    EXPECT_EQ(engine.RunScript(folder.LibraryPath("endless.spt"), true), "Process Aborted!");
 }
 
 TEST_F(WindowsFixture, TheHostAsksThroughTheDialogs) {

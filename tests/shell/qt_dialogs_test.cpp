@@ -36,13 +36,6 @@ TEST(FileFilter, IsSplitIntoPairs) {
     }
 }
 
-TEST(FileFilter, GivesTheSuffixOfItsFirstPattern) {
-    EXPECT_EQ(SuffixOf("Table (*.tbl)"), "tbl");
-    EXPECT_EQ(SuffixOf("Table,Scripts (*.tbl *.spt)"), "tbl");
-    EXPECT_EQ(SuffixOf("All files (*)"), "");
-    EXPECT_EQ(SuffixOf(""), "");
-}
-
 class QtDialogsTest : public testing::Test {
   protected:
     /// Calls `act` with the dialog that is shown next.

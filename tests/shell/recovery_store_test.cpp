@@ -114,16 +114,6 @@ TEST_F(RecoveryStore, EndsWithoutATraceWhereTheProgramDoes) {
     EXPECT_EQ(Folders(), 0U);
 }
 
-TEST_F(RecoveryStore, DeletesTheFolderWithItsLastText) {
-    DieWith({Kept("a"), Kept("b")});
-    LeftTexts left(parent);
-    ASSERT_EQ(left.All().size(), 2U);
-    DeleteLeftText(left.All()[0].file);
-    EXPECT_EQ(Folders(), 1U);
-    DeleteLeftText(left.All()[1].file);
-    EXPECT_EQ(Folders(), 0U);
-}
-
 TEST_F(RecoveryStore, SetsAsideOnceWhatItCannotRead) {
     DieWith({Kept("good"), Kept("bad")});
     const std::string instance =

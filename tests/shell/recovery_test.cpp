@@ -13,8 +13,6 @@
 namespace quenloft {
 namespace {
 
-using Log = std::vector<std::string>;
-
 class RecoveryTest : public WindowsFixture {
   protected:
     Start First() { return {Services(), random, state}; }
@@ -29,6 +27,15 @@ class RecoveryTest : public WindowsFixture {
     static void Press(ChildWindow& editor, const char* button) {
         QTest::mouseClick(editor.findChild<QPushButton*>(button), Qt::LeftButton);
     }
+    /// Waits until the only kept text is this one.
+    bool WaitForText(const std::string& kept) {
+        return QTest::qWaitFor([&] {
+            const auto files = KeptFiles(state);
+            return files.size() == 1 &&
+                   folder.Read(files[0].substr(folder.Path().size() + 1)).find(kept) !=
+                       std::string::npos;
+        });
+    }
     static ChildWindow* RestoreOnly(Start& start) {
         EXPECT_EQ(start.recovery.Left().size(), 1U);
         const std::string form = start.recovery.Left().at(0).kept.form;
@@ -41,55 +48,44 @@ class RecoveryTest : public WindowsFixture {
 };
 
 TEST_F(RecoveryTest, EveryEditorGetsItsUnsavedTextBackAndSavesItIntoItsFile) {
-    const std::string table =
-        "A\xA4"
-        "3\r\n\r\n1\xA7one\r\n3\xA7two\r\n";
+    const std::string table = InCodePage("A¤3\r\n\r\n1§one\r\n3§two\r\n");
     const struct {
         const char* form;
         const char* box;
         std::string file;
         std::string bytes;
-        std::string saved;
+        std::string saved;  ///< Stands in the file then.
     } cases[] = {
-        {form::kEdit, "txtOut", "b.spt", "one\r\n\xB0\r\n", "Xone\r\n\xB0\r\n"},
-        {form::kEditTable, "txtTitle", "b.tbl", table, "AX" + table.substr(1)},
+        {form::kEdit, "txtOut", "b.spt", "one\r\n\xB0\r\n", "XYone\r\n\xB0\r\n"},
+        {form::kEditTable, "txtTitle", "b.tbl", table, "AXY" + table.substr(1)},
         {form::kImportTable, "txtOut", "b.txt", "one\r\ntwo\r\n",
-         "T\xA4"
-         "3\r\n\r\n1\xA7Xone\r\n2\xA7two"},
-        {form::kAuthor, "rtfAuthor", "b.rtf", "{\\rtf1 \\b one}", ""},
+         InCodePage("T¤3\r\n\r\n1§XYone\r\n2§two")},
+        {form::kAuthor, "rtfAuthor", "b.rtf", "{\\rtf1 \\b one}", "XYone"},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.form);
         const std::string path = folder.Write(c.file, c.bytes);
-        std::string kept;
-        {
-            Start first = First();
-            ChildWindow* editor = first.window.Open(c.form);
-            editor->Load(path);
-            EXPECT_FALSE(editor->Unsaved());
-            Type(*editor, c.box, "X");
-            ASSERT_TRUE(WaitForKept(state, 1));
-            kept = editor->Unsaved()->snapshot()();
-            first.recovery.Wait();
-            StateAfterKill(state, folder.Path("next"));
-        }
-        EXPECT_TRUE(KeptFiles(state).empty());
-        Start next(Services(), random, folder.Path("next"));
-        ChildWindow* editor = RestoreOnly(next);
-        ASSERT_TRUE(editor);
-        EXPECT_TRUE(editor->isWindowModified());
-        EXPECT_EQ(editor->Unsaved()->snapshot()(), kept);
-        EXPECT_EQ(editor->Unsaved()->path, path);
+        Start first = First();
+        ChildWindow* editor = first.window.Open(c.form);
+        editor->Load(path);
+        EXPECT_FALSE(editor->Unsaved());
+        Type(*editor, c.box, "X");
+        ASSERT_TRUE(WaitForKept(state, 1));
+        Type(*editor, c.box, "Y");
+        const std::string kept = editor->Unsaved()->snapshot()();
+        ASSERT_TRUE(WaitForText(kept));
+        Start next = Next();
+        ChildWindow* restored = RestoreOnly(next);
+        ASSERT_TRUE(restored);
+        EXPECT_TRUE(restored->isWindowModified());
+        EXPECT_EQ(restored->Unsaved()->snapshot()(), kept);
+        EXPECT_EQ(restored->Unsaved()->path, path);
         if (c.form == form::kImportTable) {
             dialogs.WillGive("T");
         }
-        Press(*editor, "btnSave");
-        EXPECT_FALSE(editor->isWindowModified());
-        if (c.saved.empty()) {
-            EXPECT_NE(folder.Read(c.file).find("Xone"), std::string::npos);
-        } else {
-            EXPECT_EQ(folder.Read(c.file), c.saved);
-        }
+        Press(*restored, "btnSave");
+        EXPECT_FALSE(restored->isWindowModified());
+        EXPECT_NE(folder.Read(c.file).find(c.saved), std::string::npos) << folder.Read(c.file);
         EXPECT_TRUE(WaitForKept(folder.Path("next"), 0));
         dialogs.TakeLog();
         std::filesystem::remove_all(folder.Path("next"));
@@ -101,17 +97,11 @@ TEST_F(RecoveryTest, CellsOutliveTheirFaultsAndEvenTheirEditing) {
     ChildWindow* editor = first.window.Open(form::kEditTable);
     Type(*editor, "txtTitle", "T");
     Press(*editor, "btnInsert");
-    Type(*editor, "tbFgEdit", "many");
-    QTest::keyClick(editor->findChild<QWidget*>("tbFgEdit"), Qt::Key_Tab);
+    Type(*editor, "tbFgEdit", "many\t");
     Type(*editor, "tbFgEdit", "half an ent");
     const std::string cells = "T\n\nmany\nhalf an ent\n";
     ASSERT_EQ(editor->Unsaved()->snapshot()(), cells);
-    ASSERT_TRUE(QTest::qWaitFor([&] {
-        const auto files = KeptFiles(state);
-        return files.size() == 1 &&
-               folder.Read(files[0].substr(folder.Path().size() + 1)).find(cells) !=
-                   std::string::npos;
-    }));
+    ASSERT_TRUE(WaitForText(cells));
     Start next = Next();
     EXPECT_EQ(RestoreOnly(next)->Unsaved()->snapshot()(), cells);
 }

