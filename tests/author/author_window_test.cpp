@@ -82,23 +82,6 @@ TEST_F(AuthorWindowTest, NotesAreSavedAndOpenedAgain) {
                                       "open: " + filter, "open: " + filter}));
 }
 
-TEST_F(AuthorWindowTest, CancellingLeavesTextAndMarkAsTheyWere) {
-    Type("x");
-    dialogs.WillAnswer(Answer::No);
-    dialogs.WillCancel();
-    Click("btnOpen");
-    dialogs.WillAnswer(Answer::No);
-    dialogs.WillGive(folder.Path("none.rtf"));
-    dialogs.WillConfirm();
-    Click("btnOpen");
-    EXPECT_EQ(dialogs.TakeLog().back(),
-              "warning: File not found: " + folder.Path("none.rtf") + ".");
-    EXPECT_EQ(Plain(), "x");
-    EXPECT_EQ(Title(), "Author Area*");
-    dialogs.WillAnswer(Answer::Cancel);
-    EXPECT_FALSE(author->AskToSave());
-}
-
 TEST_F(AuthorWindowTest, AsksBeforeASaveDestroysSomething) {
     const std::string picture = "{\\rtf1 a{\\pict 00}\\trowd b\\cell\\row}";
     const struct {

@@ -110,13 +110,6 @@ TEST_F(DiceWindow, EndsRollsOfMillionsOfDiceWhenAborted) {
     EXPECT_FALSE(QApplication::overrideCursor() || window.IsRunning());
 }
 
-TEST_F(DiceWindow, DoesNotRollWhileARunGoesOn) {
-    window.EnableAbort();
-    Click("btnRoll");
-    EXPECT_EQ(child->Export(), "");
-    window.DisableAbort();
-}
-
 const std::string kShortDashes(59, '-');
 
 class ProbabilityWindow : public DiceWindowsFixture {
@@ -239,17 +232,6 @@ TEST_F(ShadowrunWindow, ListsTheRollsThatAFailedRunHasMade) {
     EXPECT_EQ(child->Export().size(), 602U) << "301 dice, each with a comma";
 }
 
-TEST_F(ShadowrunWindow, RunsAScriptOfPools) {
-    dialogs.WillGive(folder.Write("pools.scr",
-                                  "[Autorun]\nOpenEnded=0\nRolls=2\nDieFaces=1\n"
-                                  "[Values]\nDice1=1\nTarget=1\n"));
-    Click("btnRollCfg");
-    EXPECT_NE(Report().find("\r\n1D1 rolled 2 times against Target No 1 in N seconds" +
-                            std::string(kHeader) + "0\t\t0\t00.000 %\t\t100.000 %\r\n"),
-              std::string::npos)
-        << Report();
-}
-
 class DrovemarkWindow : public DiceWindowsFixture {
   protected:
     DrovemarkWindow() { Open(form::kDrovemark); }
@@ -284,13 +266,6 @@ TEST_F(DrovemarkWindow, IsCancelledDuringARun) {
     EXPECT_TRUE(Report().starts_with(kDashes + "\r\n rolled 2000000000 times in N seconds\r\n"));
     EXPECT_EQ(Caption("btnRoll") + Caption("btnCancel"), "RollCancel (disabled)");
     EXPECT_FALSE(QApplication::overrideCursor());
-}
-
-TEST_F(DrovemarkWindow, EndsItsRunAndClosesWhenItIsClosed) {
-    QPointer<ChildWindow> closed = child;
-    RollWhile([this] { child->CloseWindow(); });
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !closed; }));
-    EXPECT_FALSE(window.IsRunning());
 }
 
 TEST_F(DrovemarkWindow, KeepsRollDisabledAfterAFailureUntilCancelled) {

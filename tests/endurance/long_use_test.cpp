@@ -29,12 +29,8 @@ std::size_t MemoryInUse() { return mallinfo2().uordblks; }
 class LongUse : public WindowsFixture {
   protected:
     LongUse() {
-        folder.Write("a.tbl",
-                     "A\xA4"
-                     "2\r\n1\xA7#b^3#\r\n2\xA7@2d6@ and #b#\r\n");
-        folder.Write("b.tbl",
-                     "B\xA4"
-                     "2\r\n1\xA7one\r\n2\xA7two\r\n");
+        folder.Write("a.tbl", InCodePage("A¤2\r\n1§#b^3#\r\n2§@2d6@ and #b#\r\n"));
+        folder.Write("b.tbl", InCodePage("B¤2\r\n1§one\r\n2§two\r\n"));
         ShowMainWindow(window);
     }
     /// Does `work` until nothing new is learned any more, then often.

@@ -29,11 +29,7 @@ struct WorstRun {
     std::string bytes;
 };
 
-std::string Table(const std::string& entry) {
-    return "T\xA4"
-           "1\r\n1\xA7" +
-           entry + "\r\n";
-}
+std::string Table(const std::string& entry) { return InCodePage("T¤1\r\n1§" + entry + "\r\n"); }
 
 std::vector<WorstRun> Runs() {
     return {
@@ -53,11 +49,7 @@ class Responsiveness : public WindowsFixture {
     Responsiveness() {
         folder.Write("one.tbl", Table("one"));
         folder.Write("wide.tbl", Table("#one^1000# #one^1000#"));
-        std::string lines;
-        for (int i = 0; i < 1000; ++i) {
-            lines += "x|";
-        }
-        folder.Write("page.tbl", Table(lines));
+        folder.Write("page.tbl", Table(QString("x|").repeated(1000).toStdString()));
         ShowMainWindow(window);
     }
     /// Runs the file in its window, result shown; the longest time between two turns of the event

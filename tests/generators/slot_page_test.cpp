@@ -30,16 +30,6 @@ class SlotPageTest : public EngineFixture {
     SlotPage page;
 };
 
-TEST_F(SlotPageTest, OnlyTheTwentyOneSlotsCanBeBound) {
-    WriteTitled("orcs.tbl", "Orcs");
-    const TableSlot orcs = BindTable(engine, folder.Path("orcs.tbl"));
-    for (const int index : {-1, 0, 20, 21, 1000}) {
-        EXPECT_EQ(page.Bind(index, orcs), index == 0 || index == 20) << index;
-    }
-    EXPECT_EQ(Titles(), "0=Orcs 20=Orcs ");
-    EXPECT_TRUE(page.At(21).IsEmpty());
-}
-
 TEST_F(SlotPageTest, PathsOfEitherFormComeBackWithTheirFolder) {
     WriteTitled("lib/orcs.tbl", "Orcs");
     WriteTitled("lib/sub/Elves.tbl", "Elves");

@@ -51,6 +51,7 @@ class Editors : public WindowsFixture {
         given.insert(given.end(), opens, "");
         leaveBy(saves ? Answer::Yes : Answer::No, given);
         EXPECT_EQ(child.isNull(), !opens);
+        EXPECT_TRUE(!opens || child->isWindowModified() != saves) << "nothing was opened";
         EXPECT_EQ(saves, !folder.Read("saved").empty());
         if (child) {
             child->CloseUnasked();

@@ -33,19 +33,11 @@ Outcome RollIn(const TempFolder& folder, const std::string& arguments,
 class QuenloftRoll : public testing::Test {
   protected:
     QuenloftRoll() {
-        folder_.Write("lib/t.tbl",
-                      "T\xA4"
-                      "1\r\n\r\n1\xA7"
-                      "caf\xE9|#sub\\u#\r\n");
-        folder_.Write("lib/ut.tbl", folder_.Read("lib/t.tbl"));
-        folder_.Write("lib/sub/u.tbl",
-                      "U\xA4"
-                      "1\n1\xA7under\n");
+        folder_.WriteTable("lib/t.tbl", "T", "caf\xE9|#sub\\u#");
+        folder_.WriteTable("lib/ut.tbl", "T", "caf\xE9|#sub\\u#");
+        folder_.WriteTable("lib/sub/u.tbl", "U", "under");
         folder_.Write("lib/ask.spt", "??n=INC1??\nHello ??GET(Name?)?? ??n??\n??MSG(Told)??\n");
-        folder_.Write("lib/bad.tbl",
-                      "T\xA4"
-                      "1\n1\xA7"
-                      "one @\n");
+        folder_.WriteTable("lib/bad.tbl", "T", "one @");
         folder_.Write("lib/end.spt", "x\nEND:\n");
         folder_.Write("lib/loop.spt", "before\nLABEL:a\nGOTO:a\n");
     }
