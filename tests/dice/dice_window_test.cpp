@@ -204,12 +204,10 @@ TEST_F(ProbabilityWindow, CopiesAndSavesLinesWithTheirEnds) {
 const std::string kDashes(92, '-');
 constexpr char kHeader[] = "\r\nSuccesses\tOutcome\t% of Total\t\t% to get\r\n";
 
-class ShadowrunWindow : public DiceWindowsFixture {
-  protected:
-    ShadowrunWindow() { Open(form::kShadowrunProbability); }
-};
+using ShadowrunWindow = DiceWindowsFixture;
 
 TEST_F(ShadowrunWindow, AddsUpItsRuns) {
+    Open(form::kShadowrunProbability);
     Click("cmdRoll");
     EXPECT_EQ(child->Export(), "") << "no rolls";
     Type("txtTargetNumber", "7");
@@ -222,6 +220,7 @@ TEST_F(ShadowrunWindow, AddsUpItsRuns) {
 }
 
 TEST_F(ShadowrunWindow, ListsTheRollsThatAFailedRunHasMade) {
+    Open(form::kShadowrunProbability);
     Type("txtNrofDice", "301");
     Type("txtDieFaces", "1");
     Type("txtRolls", "2");
@@ -232,19 +231,10 @@ TEST_F(ShadowrunWindow, ListsTheRollsThatAFailedRunHasMade) {
     EXPECT_EQ(child->Export().size(), 602U) << "301 dice, each with a comma";
 }
 
-class DrovemarkWindow : public DiceWindowsFixture {
-  protected:
-    DrovemarkWindow() { Open(form::kDrovemark); }
-    /// Rolls for ever, `act` happening during it.
-    template <typename Act>
-    void RollWhile(Act act) {
-        Type("txtRolls", "2000000000");
-        QTimer::singleShot(0, act);
-        Click("btnRoll");
-    }
-};
+using DrovemarkWindow = DiceWindowsFixture;
 
 TEST_F(DrovemarkWindow, StepsItsBoxesAndTakesAnyText) {
+    Open(form::kDrovemark);
     QTest::keyClick(Find<QLineEdit>("txtWhite"), Qt::Key_Up);
     QTest::keyClick(Find<QLineEdit>("txtWhite"), Qt::Key_Up);
     QTest::keyClick(Find<QLineEdit>("txtBlack"), Qt::Key_Down);
@@ -256,19 +246,23 @@ TEST_F(DrovemarkWindow, StepsItsBoxesAndTakesAnyText) {
 }
 
 TEST_F(DrovemarkWindow, IsCancelledDuringARun) {
-    RollWhile([this] {
+    Open(form::kDrovemark);
+    Type("txtRolls", "2000000000");
+    QTimer::singleShot(0, [this] {
         EXPECT_EQ(Caption("btnRoll") + Caption("btnCancel"), "Roll (disabled)Cancel");
         EXPECT_TRUE(QApplication::overrideCursor());
         QTest::keyClick(child, Qt::Key_F5);
         Click("btnCancel");
         Click("btnRoll");
     });
+    Click("btnRoll");
     EXPECT_TRUE(Report().starts_with(kDashes + "\r\n rolled 2000000000 times in N seconds\r\n"));
     EXPECT_EQ(Caption("btnRoll") + Caption("btnCancel"), "RollCancel (disabled)");
     EXPECT_FALSE(QApplication::overrideCursor());
 }
 
 TEST_F(DrovemarkWindow, KeepsRollDisabledAfterAFailureUntilCancelled) {
+    Open(form::kDrovemark);
     Type("txtRolls", "2147483648");
     dialogs.WillConfirm();
     Click("btnRoll");

@@ -30,9 +30,6 @@ class ImporterTest : public WindowsFixture {
         importer = window.Open(form::kImportTable);
         text = importer->findChild<TextBox*>("txtOut");
     }
-    static std::vector<WindowKind> Kinds() {
-        return {{form::kImportTable, Instances::Many, Make<frmImportTable>}};
-    }
     void Click(const char* name) { WindowsFixture::Click(*importer, name); }
     void Type(const QString& lines) {
         text->moveCursor(QTextCursor::End);
@@ -40,7 +37,7 @@ class ImporterTest : public WindowsFixture {
     }
     std::string Caption() const { return TitleOf(*importer); }
 
-    frmMain window{Services(), Kinds()};
+    frmMain window{Services(), {{form::kImportTable, Instances::Many, Make<frmImportTable>}}};
     ChildWindow* importer = nullptr;
     TextBox* text = nullptr;
 };

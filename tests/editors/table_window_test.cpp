@@ -29,9 +29,7 @@ class TableWindowTest : public WindowsFixture {
                              return reference;
                          });
                  }},
-                {form::kSingleList, Instances::Many, [this](Workspace& workspace) {
-                     return list = new RecordingWindow(workspace, form::kSingleList);
-                 }}};
+                Recorder(form::kSingleList, list)};
     }
     void LoadOrcs() { editor->Load(folder.Path("orcs.tbl")); }
     void GoTo(int row, int column) {

@@ -18,21 +18,14 @@ class TextEditorTest : public WindowsFixture {
     TextEditorTest() { ShowMainWindow(window); }
 
     std::vector<WindowKind> Kinds() {
-        const auto recorder = [this](const char* formName) {
-            return WindowKind{formName, Instances::Many, [this, formName](Workspace& workspace) {
-                                  runner = new RecordingWindow(workspace, formName);
-                                  runner->exported = runnerOutput;
-                                  return runner;
-                              }};
-        };
         const auto choose = [this](Workspace&, const std::string& from, QWidget*) {
             chosenFrom.push_back(from);
             return reference;
         };
         return {{form::kEdit, Instances::Many,
                  [choose](Workspace& workspace) { return new frmEdit(workspace, choose); }},
-                recorder(form::kScript),
-                recorder(form::kSingleList)};
+                Recorder(form::kScript, runner),
+                Recorder(form::kSingleList, runner)};
     }
     ChildWindow* Load(const std::string& name, const std::string& bytes) {
         folder.Write(name, bytes);
@@ -57,7 +50,6 @@ class TextEditorTest : public WindowsFixture {
 
     std::string reference;
     std::vector<std::string> chosenFrom;
-    std::string runnerOutput;
     QPointer<RecordingWindow> runner;
     frmMain window{Services(), Kinds()};
 };
@@ -240,9 +232,10 @@ TEST_F(TextEditorTest, TablesRunInASingleListAndTheWindowMayCloseMeanwhile) {
 }
 
 TEST_F(TextEditorTest, MarksTheLineThatARunReportsUntilItIsChanged) {
-    runnerOutput = "Errors in script \r\n" + folder.LibraryPath("a.spt") +
-                   "\r\nLine :3\r\nError description :Overflow\r\nCurrent Directory :Z:\\";
     ChildWindow* editor = Load("a.spt", std::string(9000, 'x') + "\ntwo\nthree\nfour");
+    Click(editor, "btnRun");
+    runner->exported = "Errors in script \r\n" + folder.LibraryPath("a.spt") +
+                       "\r\nLine :3\r\nError description :Overflow\r\nCurrent Directory :Z:\\";
     auto* report = editor->findChild<QLabel*>("lblReport");
     Click(editor, "btnRun");
     EXPECT_EQ(report->text(), "Line 3: Overflow");

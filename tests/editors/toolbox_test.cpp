@@ -32,13 +32,8 @@ class ToolboxTest : public WindowsFixture {
         folder.WriteTable("lib/deep/Orcs.v2.tbl", "Orcs!", "x");
         folder.Write("quenloft.INI", "[Settings]\r\nLibpath=" + folder.Path("lib") + "\r\n");
         ShowMainWindow(window);
-        editor = static_cast<RecordingWindow*>(window.Open(form::kEdit));
+        window.Open(form::kEdit);
         toolbox = window.Open(form::kEditReference);
-    }
-    static std::vector<WindowKind> Kinds() {
-        return {{form::kEditReference, Instances::One, Make<frmEdit_Reference>},
-                {form::kEdit, Instances::Many,
-                 [](Workspace& workspace) { return new RecordingWindow(workspace, form::kEdit); }}};
     }
     template <typename Widget>
     Widget* Get(const std::string& name) {
@@ -64,8 +59,10 @@ class ToolboxTest : public WindowsFixture {
                    QContextMenuEvent::Keyboard);
     }
 
-    frmMain window{Services(), Kinds()};
-    RecordingWindow* editor = nullptr;
+    QPointer<RecordingWindow> editor;
+    frmMain window{Services(),
+                   {{form::kEditReference, Instances::One, Make<frmEdit_Reference>},
+                    Recorder(form::kEdit, editor)}};
     ChildWindow* toolbox = nullptr;
 };
 

@@ -242,16 +242,6 @@ TEST_F(Writers, Export) {
             {}});
 }
 
-TEST_F(Writers, AnalysisReport) {
-    ChildWindow* analysis = window.Open(form::kProbability);
-    TryAll({[](int) {},
-            [&] {
-                dialogs.WillGive(folder.Path("report.txt"));
-                Click(*analysis, "btnSaveResultTofile");
-            },
-            {}});
-}
-
 TEST_F(Writers, PrintToFile) {
     QtPrinter pdf([this](QPrinter& setUp) {
         setUp.setOutputFormat(QPrinter::PdfFormat);

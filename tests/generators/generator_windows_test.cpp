@@ -19,18 +19,12 @@ class GeneratorsFixture : public WindowsFixture {
         folder.WriteTable("lib/endless.tbl", "Endless", "#endless.spt#");
     }
 
-    WindowKind Recorder(const char* formName) {
-        return {formName, Instances::Many, [this, formName](Workspace& workspace) {
-                    editor = new RecordingWindow(workspace, formName);
-                    return editor;
-                }};
-    }
     std::vector<WindowKind> Kinds() {
         return {{form::kLists, Instances::One, Make<frmLists>},
                 {form::kSingleList, Instances::Many, Make<frmListSingle>},
                 {form::kScript, Instances::Many, Make<frmScript>},
-                Recorder(form::kEditTable),
-                Recorder(form::kEdit)};
+                Recorder(form::kEditTable, editor),
+                Recorder(form::kEdit, editor)};
     }
 
     QPointer<RecordingWindow> editor;

@@ -28,20 +28,8 @@ namespace quenloft {
 namespace {
 
 QPalette DarkPalette() {
-    const QColor window(45, 45, 48);
-    const QColor base(30, 30, 30);
-    const QColor text(230, 230, 230);
-    const QColor faint(140, 140, 140);
-    QPalette palette(window, window);
-    palette.setColor(QPalette::Base, base);
-    palette.setColor(QPalette::AlternateBase, window);
-    palette.setColor(QPalette::ToolTipBase, window);
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
-                            QPalette::ToolTipText, QPalette::BrightText}) {
-        palette.setColor(role, text);
-        palette.setColor(QPalette::Disabled, role, faint);
-    }
-    palette.setColor(QPalette::PlaceholderText, faint);
+    QPalette palette(QColor(45, 45, 48));  // The other colours follow from it, all but these.
+    palette.setColor(QPalette::PlaceholderText, QColor(140, 140, 140));
     palette.setColor(QPalette::Highlight, QColor(38, 100, 170));
     palette.setColor(QPalette::HighlightedText, Qt::white);
     palette.setColor(QPalette::Link, QColor(110, 170, 255));

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <functional>
@@ -9,6 +10,7 @@
 #include <vector>
 
 #include "shell/child_window.h"
+#include "shell/main_window.h"
 #include "shell/text_box.h"
 
 namespace quenloft {
@@ -61,5 +63,12 @@ class RecordingWindow : public ChildWindow {
     std::function<void()> onRun;
     std::function<void()> onDestroyed;
 };
+
+/// The kind of window `formName`; the one made last is in `made`, of which none may outlive it.
+inline WindowKind Recorder(const char* formName, QPointer<RecordingWindow>& made) {
+    return {formName, Instances::Many, [formName, &made](Workspace& workspace) {
+                return made = new RecordingWindow(workspace, formName);
+            }};
+}
 
 }  // namespace quenloft
