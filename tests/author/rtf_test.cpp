@@ -6,6 +6,7 @@
 #include "author/rtf_writer.h"
 #include "tests/author/random_text.h"
 #include "tests/author/rich_text_outline.h"
+#include "tests/support/repeated.h"
 
 namespace quenloft {
 namespace {
@@ -209,14 +210,6 @@ TEST(RtfReader, BrokenFilesGiveTheTextThatCanBeRead) {
         const std::string outline = OutlineOf(ReadRtf(c.bytes).text);
         EXPECT_EQ(outline, c.outline) << c.description;
     }
-}
-
-std::string Repeated(std::string_view piece, int times) {
-    std::string text;
-    for (; times > 0; --times) {
-        text += piece;
-    }
-    return text;
 }
 
 TEST(RtfReader, GroupsMayNestAsDeepAsTheyLike) {

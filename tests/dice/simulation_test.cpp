@@ -116,20 +116,6 @@ TEST(Simulation, RollsTheExactDistributions) {
     }
 }
 
-TEST(Simulation, DoesNotRepeatItselfWithinOneTickOfTheClock) {
-    // A generator that the clock restarts gives runs of equal faces.
-    SystemRandomSource random;
-    DieRoller<SystemRandomSource> roller(random, {});
-    int equal = 0;
-    std::int32_t last = 0;
-    for (int i = 0; i < 100'000; ++i) {
-        const std::int32_t face = roller.Roll(20);
-        equal += face == last ? 1 : 0;
-        last = face;
-    }
-    EXPECT_NEAR(equal, 5'000, 500);
-}
-
 TEST(Simulation, ReseedsForEachDieAndNotForARollOfTheSameDie) {
     ScriptedRandom random{0.0, 0.99, 0.99, 0.5};  // 1; 6 and 6 and 4.
     SimulationOn<RandomSource> simulation(random);

@@ -82,23 +82,5 @@ TEST_F(ImporterTest, AnOpenedFileStaysBesideItsTable) {
         << "what was opened, not the first try";
 }
 
-TEST_F(ImporterTest, NewAsksAboutTheFileAndCanBeUndone) {
-    const std::string path = folder.Write("a.txt", "a\nb\n");
-    importer->Load(path);
-    for (const Answer answer : {Answer::Cancel, Answer::No}) {
-        EXPECT_EQ(text->Text(), "a\r\nb\r\n");
-        dialogs.WillAnswer(answer);
-        Click("btnNew");
-        EXPECT_EQ(dialogs.TakeLog(), Log{"yes or no: Do You want to save file " + path + " ?"});
-    }
-    EXPECT_EQ(text->Text(), "");
-    EXPECT_EQ(Caption(), "Table Importer");
-    text->undo();
-    EXPECT_EQ(text->Text(), "a\r\nb\r\n");
-    EXPECT_EQ(Caption(), "Table Importer*");
-    EXPECT_EQ(folder.Read("a.txt"), "a\nb\n");
-    importer->CloseUnasked();
-}
-
 }  // namespace
 }  // namespace quenloft

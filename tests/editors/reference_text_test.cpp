@@ -29,15 +29,6 @@ TEST(ReferenceText, CapitalsAreTheMessage) {
     }
 }
 
-TEST(ReferenceText, OnlyACountAboveOneIsWritten) {
-    EXPECT_EQ(ReferenceText("..\\Monsters\\ORCS.TBL", 3, kEscapedRepeatMark),
-              "#..\\Monsters\\ORCS.TBL{^}3#");
-    EXPECT_EQ(ReferenceText("a.tbl", 2.5, kRepeatMark), "#a.tbl^2.5#");
-    for (const double count : {1.0, 0.0, -4.0}) {
-        EXPECT_EQ(ReferenceText("a.tbl", count, kRepeatMark), "#a.tbl#");
-    }
-}
-
 TEST(ReferencePlace, KeepsTheWayFromWhereItBegan) {
     ReferencePlace place("C:\\Lib\\Tables");
     const auto stands = [&place](const std::string& folder, const std::string& relative) {

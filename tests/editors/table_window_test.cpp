@@ -285,30 +285,14 @@ TEST_F(TableWindowTest, KeepsTheCellOpenWhileAnotherWindowHasTheFocus) {
     EXPECT_TRUE(editor->isWindowModified());
 }
 
-TEST_F(TableWindowTest, NewAlwaysAsksAndKeepsATableThatIsNotSaved) {
-    LoadOrcs();
-    dialogs.WillAnswer(Answer::Cancel);
-    Click("btnNew");
-    EXPECT_EQ(Rows(), "5|A\n10|B\n|more\n5|C\n");
-    dialogs.WillAnswer(Answer::No);
-    Click("btnNew");
-    EXPECT_EQ(editor->windowTitle(), "Table Editor[*]");
-    EXPECT_EQ(Rows(), "");
+TEST_F(TableWindowTest, SavesANewTableWhereItIsTold) {
     Field("txtTitle")->setText("Elves");
-    dialogs.WillAnswer(Answer::Yes);
-    dialogs.WillCancel();
-    Click("btnNew");
-    EXPECT_EQ(Field("txtTitle")->text(), "Elves");
-    EXPECT_TRUE(editor->isWindowModified());
-    const std::string question = "yes or no: Do You want to save file ";
-    EXPECT_EQ(dialogs.TakeLog(),
-              (Log{question + "orcs.tbl ?", question + "orcs.tbl ?", question + " ?",
-                   "save: Table (*.tbl)|*.tbl|All files (*.*)|*.* at " + folder.Path()}));
     dialogs.WillGive(folder.Path("elves.tbl"));
     Press(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(dialogs.TakeLog(),
+              Log{"save: Table (*.tbl)|*.tbl|All files (*.*)|*.* at " + folder.Path()});
     EXPECT_EQ(editor->windowTitle(), "Table Editor (..\\elves.tbl)[*]");
     EXPECT_EQ(folder.Read("elves.tbl"), InCodePage("Elves¤0\r\n\r\n"));
-    dialogs.TakeLog();
 }
 
 TEST_F(TableWindowTest, RefusesToSaveWhatWouldBecomeSomethingElse) {

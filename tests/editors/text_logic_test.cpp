@@ -95,10 +95,5 @@ TEST(ScriptReports, AreFoundWhereverTheyStand) {
     EXPECT_TRUE(FindScriptReports("Errors in script \r\n").empty());
 }
 
-TEST(PlainReference, TakesTheBracesOfKeystrokesAway) {
-    EXPECT_EQ(PlainReference("#..\\{~}Names{^}3#"), "#..\\~Names^3#");
-    EXPECT_EQ(PlainReference("#{x}{^#"), "#{x}{^#");
-}
-
 }  // namespace
 }  // namespace quenloft

@@ -127,28 +127,6 @@ TEST_F(TextEditorTest, SavesAgainOnceWhatWasInTheWayIsGone) {
     EXPECT_EQ(folder.Read("medium/a.spt"), "xold");
 }
 
-TEST_F(TextEditorTest, NewAsksAsItShouldAndUndoBringsTheTextBack) {
-    ChildWindow* editor = Load("a.spt", "old");
-    dialogs.WillAnswer(Answer::Cancel);
-    Click(editor, "btnNew");
-    EXPECT_EQ(Text(editor), "old") << "the question was dismissed";
-    Type(editor, "new");
-    dialogs.TakeLog();
-    dialogs.WillAnswer(Answer::No);
-    Click(editor, "btnNew");
-    EXPECT_EQ(dialogs.TakeLog(),
-              Log{"yes or no: Do You want to save file " + folder.Path("a.spt") + " ?"});
-    EXPECT_EQ(Text(editor) + Title(editor), "Table & Script Editor[*]");
-    Box(editor).undo();
-    EXPECT_EQ(Text(editor) + Title(editor), "newoldTable & Script Editor[*] changed");
-    dialogs.WillAnswer(Answer::Cancel);
-    Click(editor, "btnNew");
-    EXPECT_EQ(Text(editor), "newold");
-    EXPECT_EQ(dialogs.TakeLog().size(), 1U) << "text without a file is asked for as well";
-    EXPECT_EQ(folder.Read("a.spt"), "old");
-    editor->CloseUnasked();
-}
-
 TEST_F(TextEditorTest, DeletesTheFileAndKeepsTheText) {
     ChildWindow* editor = Load("a.spt", "text");
     Type(editor, "x");

@@ -11,6 +11,7 @@
 #include "shell/form_names.h"
 #include "shell/text_box.h"
 #include "shell/window_kinds.h"
+#include "tests/support/repeated.h"
 #include "tests/support/windows_fixture.h"
 
 namespace quenloft {
@@ -49,7 +50,7 @@ class Responsiveness : public WindowsFixture {
     Responsiveness() {
         folder.Write("one.tbl", Table("one"));
         folder.Write("wide.tbl", Table("#one^1000# #one^1000#"));
-        folder.Write("page.tbl", Table(QString("x|").repeated(1000).toStdString()));
+        folder.Write("page.tbl", Table(Repeated("x|", 1000)));
         ShowMainWindow(window);
     }
     /// Runs the file in its window, result shown; the longest time between two turns of the event

@@ -5,6 +5,7 @@
 
 #include "engine/failure.h"
 #include "tests/support/fake_host.h"
+#include "tests/support/repeated.h"
 
 namespace quenloft {
 namespace {
@@ -151,21 +152,14 @@ TEST_F(Expressions, AreToldFromText) {
 }
 
 TEST_F(Expressions, HaveNoDepthOrLengthThatHurts) {
-    const auto repeated = [](const char* piece, int times) {
-        std::string text;
-        for (; times > 0; --times) {
-            text += piece;
-        }
-        return text;
-    };
-    const std::string open = repeated("(", 100'000);
-    const std::string close = repeated(")", 100'000);
-    EXPECT_EQ(Evaluate("1" + repeated("+1", 20'000)), "20001");
+    const std::string open = Repeated("(", 100'000);
+    const std::string close = Repeated(")", 100'000);
+    EXPECT_EQ(Evaluate("1" + Repeated("+1", 20'000)), "20001");
     EXPECT_EQ(Evaluate(open + "7" + close), "7");
     EXPECT_EQ(Evaluate("2*" + open + "1+1" + close + "-1"), "3");
-    EXPECT_EQ(Evaluate(repeated("-", 100'001) + "7"), "-7");
-    EXPECT_EQ(Evaluate(repeated("RND(", 20'000) + "2.4" + repeated(")", 20'000)), "2");
-    EXPECT_EQ(Evaluate("a" + repeated("&a", 500'000)).size(), 500'001U);
+    EXPECT_EQ(Evaluate(Repeated("-", 100'001) + "7"), "-7");
+    EXPECT_EQ(Evaluate(Repeated("RND(", 20'000) + "2.4" + Repeated(")", 20'000)), "2");
+    EXPECT_EQ(Evaluate("a" + Repeated("&a", 500'000)).size(), 500'001U);
 }
 
 }  // namespace

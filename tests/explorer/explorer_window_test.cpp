@@ -125,23 +125,6 @@ TEST_F(ExplorerTest, ThePopupsOfferWhatTheProgramHas) {
     EXPECT_EQ(out->Text(), "An orc.");
 }
 
-TEST_F(ExplorerTest, ButtonsFollowTheSelection) {
-    Open();
-    const std::pair<QModelIndex, const char*> cases[] = {
-        {Row("Orcs"), "btnRun btnDelete btnNewDirectory btnRefresh "},
-        {Row("sub"), "btnNewDirectory btnRefresh "},
-        {QModelIndex(), "btnRefresh "}};
-    for (const auto& [row, enabled] : cases) {
-        tree->setCurrentIndex(row);
-        QString names;
-        for (const char* name :
-             {"btnRun", "btnRunAsNew", "btnEdit", "btnDelete", "btnNewDirectory", "btnRefresh"}) {
-            names += Button(name)->isEnabled() ? QString(name) + " " : QString();
-        }
-        EXPECT_EQ(names, enabled);
-    }
-}
-
 TEST_F(ExplorerTest, DeletingAsksAndPrefersTheTrash) {
     Open();
     const std::string path = folder.Path("lib/orcs.tbl");

@@ -135,24 +135,19 @@ TEST_F(FileSystemTest, BelievesWhatItSawUntilItLooksAgain) {
     EXPECT_EQ(files_.OpenText("X.tbl"), second) << "unchanged";
 }
 
-TEST_F(FileSystemTest, SeesEveryChangeOfTheSameSizeWithinOneTickOfTheClock) {
+TEST_F(FileSystemTest, SeesEveryChangeWithinOneTickOfTheClock) {
     for (int i = 0; i < 500; ++i) {
+        SCOPED_TRACE(i);
         const std::string content = i % 2 == 0 ? "even" : "odd!";
         folder_.Write("x.tbl", content);
-        files_.LookAgain();
-        ASSERT_EQ(files_.OpenText("X.tbl")->Line(0), content) << "change " << i;
-    }
-}
-
-TEST_F(FileSystemTest, SeesEveryNewNameWithinOneTickOfTheClock) {
-    for (int i = 0; i < 200; ++i) {
         const std::string name = "name" + std::to_string(i);
         folder_.Write(name + ".tbl", "");
         files_.LookAgain();
-        ASSERT_TRUE(files_.FileExists(name + ".TBL")) << name;
+        ASSERT_EQ(files_.OpenText("X.tbl")->Line(0), content);
+        ASSERT_TRUE(files_.FileExists(name + ".TBL"));
         std::filesystem::remove(folder_.Path(name + ".tbl"));
         files_.LookAgain();
-        ASSERT_FALSE(files_.FileExists(name + ".TBL")) << name;
+        ASSERT_FALSE(files_.FileExists(name + ".TBL"));
     }
 }
 

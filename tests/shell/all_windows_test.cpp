@@ -1,13 +1,8 @@
 // What must hold in every window of the program.
-#include <QAbstractButton>
-#include <QAbstractItemView>
-#include <QAbstractSpinBox>
 #include <QAccessible>
-#include <QComboBox>
 #include <QMenuBar>
-#include <QPlainTextEdit>
 #include <QShortcut>
-#include <QTextEdit>
+#include <algorithm>
 #include <map>
 
 #include "shell/recovery/recovery.h"
@@ -31,19 +26,19 @@ class AllWindows : public WindowsFixture {
             look(*child);
         }
     }
+    static bool IsAny(const QWidget& widget, std::initializer_list<const char*> classes) {
+        return std::ranges::any_of(classes,
+                                   [&](const char* name) { return widget.inherits(name); });
+    }
     static bool TakesInput(const QWidget& widget) {
-        return widget.inherits("QAbstractButton") || widget.inherits("QLineEdit") ||
-               widget.inherits("QComboBox") || widget.inherits("QAbstractSpinBox") ||
-               widget.inherits("QPlainTextEdit") || widget.inherits("QTextEdit") ||
-               widget.inherits("QAbstractItemView");
+        return IsAny(widget, {"QAbstractButton", "QLineEdit", "QComboBox", "QAbstractSpinBox",
+                              "QPlainTextEdit", "QTextEdit", "QAbstractItemView"});
     }
     /// A part of another control, which speaks for it.
     static bool IsPart(const QWidget& widget) {
-        const QWidget* parent = widget.parentWidget();
-        return parent->inherits("QAbstractSpinBox") || parent->inherits("QComboBox") ||
-               parent->inherits("QAbstractItemView") || parent->inherits("QLineEdit") ||
-               parent->inherits("QAbstractScrollArea") || widget.inherits("QHeaderView") ||
-               widget.inherits("QComboBoxListView");
+        return IsAny(widget, {"QHeaderView", "QComboBoxListView"}) ||
+               IsAny(*widget.parentWidget(), {"QAbstractSpinBox", "QComboBox", "QAbstractItemView",
+                                              "QLineEdit", "QAbstractScrollArea"});
     }
 
     Recovery recovery{folder.Path("state"), dialogs};

@@ -5,7 +5,6 @@
 #include <QMetaObject>
 
 #include "shell/generation_run.h"
-#include "shell/qt_engine_host.h"
 #include "tests/support/recording_window.h"
 #include "tests/support/windows_fixture.h"
 
@@ -216,16 +215,6 @@ TEST_F(MainWindowTest, StartUpEntersTheLibraryWhereThereIsOne) {
         started.StartUp();
         EXPECT_EQ(files.CurrentDirectory(), expected) << path;
     }
-}
-
-TEST_F(WindowsFixture, TheHostAsksThroughTheDialogs) {
-    dialogs.WillConfirm();
-    dialogs.WillGive("Ada");
-    dialogs.WillCancel();
-    host.ShowMessage("Hello");
-    EXPECT_EQ(host.AskForText("Name?"), "Ada");
-    EXPECT_EQ(host.AskForText("Name?"), "");
-    EXPECT_EQ(dialogs.TakeLog(), (Log{"message: Hello", "text: Name? []", "text: Name? []"}));
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <QRegularExpression>
 #include <gtest/gtest.h>
 
+#include "tests/support/repeated.h"
 #include "tests/support/temp_folder.h"
 
 namespace quenloft {
@@ -36,20 +37,13 @@ class QtPrinterTest : public testing::Test {
 };
 
 TEST_F(QtPrinterTest, BreaksTextIntoPages) {
-    const auto lines = [](int count) {
-        std::string text;
-        for (int i = 0; i < count; ++i) {
-            text += "A line of the result.\r\n";
-        }
-        return text;
-    };
     const struct {
         std::string text;
         int least, most;
     } cases[] = {
         {"", 1, 1},
-        {lines(40), 1, 1},
-        {lines(400), 6, 9},
+        {Repeated("A line of the result.\r\n", 40), 1, 1},
+        {Repeated("A line of the result.\r\n", 400), 6, 9},
         {std::string(400'000, 'x'), 50, 150},
     };
     for (const auto& c : cases) {

@@ -30,27 +30,18 @@ class Documents : public WindowsFixture {
     }
 };
 
-TEST_F(Documents, OpenInTheWindowThatFitsAndRun) {
+TEST_F(Documents, OpenInTheWindowThatFitsAndRunWhenTheyAreDropped) {
     frmMain window(Services(), Kinds());
     ShowMainWindow(window);
-    window.OpenDocument(folder.Path("orcs.tbl"));
+    EXPECT_TRUE(Drop(window, {UrlOf("orcs.tbl"), UrlOf("day.SPT")}));
+    QCoreApplication::processEvents();
     EXPECT_NE(window.findChild<frmListSingle*>()->Export().find("An orc."), std::string::npos);
-    window.OpenDocument(folder.Path("day.SPT"));
     EXPECT_NE(window.findChild<frmScript*>()->Export().find("A day."), std::string::npos);
     dialogs.WillConfirm();
     window.OpenDocument(folder.Path("a.png"));
     EXPECT_EQ(dialogs.TakeLog(), Log{"warning: " + folder.Path("a.png") +
                                      " cannot be opened: it is neither a table (*.tbl) nor a "
                                      "script (*.spt) nor notes (*.rtf)."});
-}
-
-TEST_F(Documents, OpenWhenTheyAreDroppedOnTheMainWindow) {
-    frmMain window(Services(), Kinds());
-    ShowMainWindow(window);
-    EXPECT_TRUE(Drop(window, {UrlOf("orcs.tbl"), UrlOf("day.SPT")}));
-    QCoreApplication::processEvents();
-    EXPECT_TRUE(window.findChild<frmListSingle*>());
-    EXPECT_TRUE(window.findChild<frmScript*>());
 }
 
 TEST_F(Documents, AreTheRecentFilesAfterARestart) {

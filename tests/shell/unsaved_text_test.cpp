@@ -1,4 +1,7 @@
 // What every editor does with text that is not saved, and with files that are not there.
+#include <span>
+
+#include "platform/text_encoding.h"
 #include "shell/window_kinds.h"
 #include "tests/support/windows_fixture.h"
 
@@ -20,22 +23,39 @@ const Editor kEditors[] = {
     {form::kAuthor, "rtfAuthor", "Data in Author Area is not saved, save now?", ""},
 };
 
+/// What takes the text away.
+struct WayOut {
+    const char* name;
+    std::function<void(ChildWindow&)> leave;
+    bool closes;
+};
+
+const WayOut kWaysOut[] = {
+    {"closing it", [](ChildWindow& child) { child.CloseWindow(); }, true},
+    {"closing all",
+     [](ChildWindow& child) {
+         child.window()->findChild<QAction*>("mnuWindow_CloseAll")->trigger();
+     },
+     true},
+    {"another file", [](ChildWindow& child) { child.OpenFile(); }, false},
+    {"a new file", [](ChildWindow& child) { child.NewFile(); }, false},
+};
+
 class Editors : public WindowsFixture {
   protected:
     Editors() { ShowMainWindow(window); }
 
     /// Types, and leaves in the end: until then each question is answered so that the text stays.
-    void LeaveUnsaved(const Editor& editor, const std::function<void(ChildWindow*)>& leave,
-                      bool opens, bool saves) {
+    void LeaveUnsaved(const Editor& editor, const WayOut& way, bool saves) {
         folder.Write("saved", "");
         const QPointer<ChildWindow> child = window.Open(editor.form);
         QTest::keyClicks(child->findChild<QWidget*>(editor.box), "words");
-        const auto leaveBy = [&](Answer answer, const std::vector<std::string>& given) {
+        const auto leaveBy = [&](Answer answer, const Log& given) {
             dialogs.WillAnswer(answer);
             for (const std::string& text : given) {
                 text.empty() ? dialogs.WillCancel() : dialogs.WillGive(text);
             }
-            leave(child);
+            way.leave(*child);
             LetWindowsClose();
             EXPECT_TRUE(dialogs.TakeLog().front().ends_with(editor.question));
         };
@@ -43,17 +63,18 @@ class Editors : public WindowsFixture {
         ASSERT_TRUE(child && child->isWindowModified());
         leaveBy(Answer::Yes, {""});
         ASSERT_TRUE(child && child->isWindowModified()) << "the save dialog was cancelled";
-        std::vector<std::string> given;
+        Log given;
         if (saves) {
             given = {folder.Path("saved")};
             given.insert(given.end(), editor.form == form::kImportTable, "title");
         }
-        given.insert(given.end(), opens, "");
+        const bool asksForFile = &way == &kWaysOut[2];
+        given.insert(given.end(), asksForFile, "");
         leaveBy(saves ? Answer::Yes : Answer::No, given);
-        EXPECT_EQ(child.isNull(), !opens);
-        EXPECT_TRUE(!opens || child->isWindowModified() != saves) << "nothing was opened";
+        EXPECT_EQ(child.isNull(), way.closes);
         EXPECT_EQ(saves, !folder.Read("saved").empty());
         if (child) {
+            EXPECT_EQ(child->isWindowModified(), asksForFile && !saves);
             child->CloseUnasked();
         }
     }
@@ -62,17 +83,45 @@ class Editors : public WindowsFixture {
 };
 
 TEST_F(Editors, NeverLoseTextUnasked) {
-    const std::function<void(ChildWindow*)> waysOut[] = {
-        [](ChildWindow* child) { child->CloseWindow(); },
-        [this](ChildWindow*) { window.CloseAll(); }, [](ChildWindow* child) { child->OpenFile(); }};
     for (const Editor& editor : kEditors) {
-        for (const auto& leave : waysOut) {
+        for (const WayOut& way : kWaysOut) {
+            if (editor.form == form::kAuthor && &way == &kWaysOut[3]) {
+                continue;  // It has no such command.
+            }
             for (const bool saves : {false, true}) {
-                SCOPED_TRACE(std::string(editor.form) + ", way " +
-                             std::to_string(&leave - waysOut) + (saves ? ", saved" : ""));
-                LeaveUnsaved(editor, leave, &leave == &waysOut[2], saves);
+                SCOPED_TRACE(std::string(editor.form) + ", " + way.name + (saves ? ", saved" : ""));
+                LeaveUnsaved(editor, way, saves);
             }
         }
+    }
+}
+
+TEST_F(Editors, AskBeforeANewTextTakesThePlaceOfAFile) {
+    const std::string bytes = InCodePage("Title¤1\r\n\r\n1§one\r\n");
+    const std::string path = folder.Write("a.tbl", bytes);
+    for (const Editor& editor : std::span(kEditors).first(3)) {
+        SCOPED_TRACE(editor.form);
+        ChildWindow* child = window.Open(editor.form);
+        const QString empty = child->windowTitle();
+        child->Load(path);
+        const QString loaded = child->windowTitle();
+        const std::string name = editor.form == form::kEditTable ? "a.tbl" : path;
+        for (const Answer answer : {Answer::Cancel, Answer::No}) {
+            EXPECT_EQ(child->windowTitle(), loaded);
+            dialogs.WillAnswer(answer);
+            child->NewFile();
+            EXPECT_EQ(dialogs.TakeLog(), Log{"yes or no: Do You want to save file " + name + " ?"});
+        }
+        EXPECT_EQ(child->windowTitle(), empty);
+        EXPECT_FALSE(child->isWindowModified());
+        if (auto* text = child->findChild<TextBox*>("txtOut")) {
+            EXPECT_EQ(text->Text(), "");
+            text->undo();
+            EXPECT_EQ(ToWindows1252(text->Text()), bytes);
+            EXPECT_TRUE(child->isWindowModified());
+        }
+        EXPECT_EQ(folder.Read("a.tbl"), bytes);
+        child->CloseUnasked();
     }
 }
 
