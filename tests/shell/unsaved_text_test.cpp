@@ -109,7 +109,7 @@ TEST_F(Editors, AskBeforeANewTextTakesThePlaceOfAFile) {
         for (const Answer answer : {Answer::Cancel, Answer::No}) {
             EXPECT_EQ(child->windowTitle(), loaded);
             dialogs.WillAnswer(answer);
-            child->NewFile();
+            Click(*child, "btnNew");
             EXPECT_EQ(dialogs.TakeLog(), Log{"yes or no: Do You want to save file " + name + " ?"});
         }
         EXPECT_EQ(child->windowTitle(), empty);
