@@ -214,10 +214,15 @@ void frmMain::dragEnterEvent(QDragEnterEvent* event) {
 void frmMain::dropEvent(QDropEvent* event) {
     AcceptAsCopy(*event);
     // Queued: a run must not hold up the program that the files come from.
-    for (const std::string& path : DraggedFiles(*event)) {
-        QMetaObject::invokeMethod(
-            this, [this, path] { OpenDocument(path); }, Qt::QueuedConnection);
-    }
+    // In one go: during the run of the first file the second one could not be run.
+    QMetaObject::invokeMethod(
+        this,
+        [this, paths = DraggedFiles(*event)] {
+            for (const std::string& path : paths) {
+                OpenDocument(path);
+            }
+        },
+        Qt::QueuedConnection);
 }
 
 void frmMain::BuildMenuBar() {
