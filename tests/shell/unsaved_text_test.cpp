@@ -59,8 +59,13 @@ class Editors : public WindowsFixture {
             LetWindowsClose();
             EXPECT_TRUE(dialogs.TakeLog().front().ends_with(editor.question));
         };
+        window.Open(form::kDice);
         leaveBy(Answer::Cancel, {});
         ASSERT_TRUE(child && child->isWindowModified());
+        if (way.closes) {
+            EXPECT_EQ(window.Area().activeSubWindow()->widget(), child.data())
+                << "the user sees which it is";
+        }
         leaveBy(Answer::Yes, {""});
         ASSERT_TRUE(child && child->isWindowModified()) << "the save dialog was cancelled";
         Log given;
