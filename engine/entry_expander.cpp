@@ -66,6 +66,7 @@ std::string Interpreter::ExpandEntry(std::string_view text) {
     if (!TakeTurn()) {
         return std::string(kAbortedText);
     }
+    CheckOutputSize(text.size());
     std::string expanded(text);
     if (!HoldsMarks(text)) {
         return expanded;

@@ -46,6 +46,8 @@ TEST_F(EngineRuns, TextThatFeedsItselfEndsAtSixteenMebibytes) {
     folder.Write("jump.spt",
                  "LABEL:a\nsome output that is long enough to come to the end soon\nGOTO:a\n");
     EXPECT_EQ(Run("jump.spt"), stopped);
+    WriteTable("log.tbl", std::string(17U << 20U, 'x'));
+    EXPECT_EQ(Roll("log.tbl"), stopped);
     folder.Write("grow.spt", "??v=INCabcdefghijklmnop??\nLABEL:a\n??v=v+v??\nGOTO:a\n");
     EXPECT_EQ(Run("grow.spt"), stopped);
     // A diagnostic is text like any other: the marks in it are expanded by the level above.
