@@ -78,9 +78,10 @@ void RollCounts::Grow() {
 }
 
 void RollCounts::Clear() {
-    // A run of millions of keys gives its memory back.
+    // A run of millions of keys, or of long texts, gives its memory back.
     constexpr std::size_t kMostSlotsKept = 1 << 16;
-    if (slots_.size() > kMostSlotsKept) {
+    constexpr std::size_t kMostBytesKept = 1 << 24;
+    if (slots_.size() > kMostSlotsKept || texts_.capacity() > kMostBytesKept) {
         *this = RollCounts();
         return;
     }
