@@ -7,7 +7,11 @@ namespace quenloft {
 
 namespace {
 
-/// The lowest address of the thread's stack, 0 where it cannot be told. Reading it is slow.
+/// Assumed where the end of the stack cannot be told: a quarter of the usual stack.
+constexpr std::size_t kUsuallyLeft = std::size_t{2} << 20;
+
+/// The lowest address of the thread's stack, 0 where it cannot be told (the system
+/// tells it in /proc, which a sandbox may lack). Reading it is slow.
 std::uintptr_t LowestAddress() {
     pthread_attr_t attributes;
     if (pthread_getattr_np(pthread_self(), &attributes) != 0) {
@@ -25,7 +29,7 @@ std::uintptr_t LowestAddress() {
 std::size_t StackBytesLeft() {
     thread_local const std::uintptr_t lowest = LowestAddress();
     const auto here = reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0));
-    return lowest != 0 && here > lowest ? here - lowest : 0;
+    return lowest != 0 && here > lowest ? here - lowest : kUsuallyLeft;
 }
 
 }  // namespace quenloft
