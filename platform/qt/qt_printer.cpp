@@ -150,7 +150,12 @@ std::string QtPrinter::Print(const std::function<void(QTextDocument& document)>&
 // whole.
 std::string QtPrinter::PrintToFile(QTextDocument& document) {
     const QString target = printer_->outputFileName();
+    const std::string noRoom = kFailure + FromQt(target) + ": there is no room for it in " +
+                               FromQt(QDir::tempPath()) + ".";
     const QTemporaryDir folder;
+    if (!folder.isValid()) {
+        return noRoom;  // Without a name for the draft it would go to a printer.
+    }
     const QString draft = folder.filePath(QStringLiteral("print.pdf"));
     printer_->setOutputFileName(draft);
     std::string failure = Draw(document, kFailure + FromQt(target));
@@ -161,8 +166,7 @@ std::string QtPrinter::PrintToFile(QTextDocument& document) {
     QFile file(draft);
     const QByteArray pdf = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     if (!IsWholePdf(pdf)) {
-        return kFailure + FromQt(target) + ": there is no room for it in " +
-               FromQt(QDir::tempPath()) + ".";
+        return noRoom;
     }
     try {
         WriteFileAtomically(QFile::encodeName(target).toStdString(), pdf.toStdString());

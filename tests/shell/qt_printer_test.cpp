@@ -85,6 +85,11 @@ TEST_F(QtPrinterTest, SaysWhyNothingWasPrinted) {
     const std::string unreachable = folder.Path("missing/out.pdf");
     EXPECT_EQ(Print("x", unreachable), "The text could not be printed: " + unreachable +
                                            " could not be saved: No such file or directory.");
+    const std::string noFolder = folder.Write("file", "");
+    qputenv("TMPDIR", QByteArray::fromStdString(noFolder));
+    EXPECT_EQ(Print("x", pdf), "The text could not be printed on " + pdf +
+                                   ": there is no room for it in " + noFolder + ".");
+    qunsetenv("TMPDIR");
 }
 
 }  // namespace
