@@ -30,10 +30,11 @@ class TotalsReport : public testing::Test {
     std::string Report(const std::vector<std::int32_t>& totals, const DisplayRange& range,
                        std::string_view dice) {
         const std::vector<DiceGroup> anyTotal = {{1, 2'000'000'000, 0}};
-        ScriptedRandom random{};
+        std::vector<double> values;
         for (const std::int32_t total : totals) {
-            random.Add((total - 0.5) / 2'000'000'000);
+            values.push_back((total - 0.5) / 2'000'000'000);
         }
+        ScriptedRandom random(values);
         const auto rolls = static_cast<std::int32_t>(totals.size());
         TotalTally tally;
         SimulationOn<RandomSource>(random).CountTotals(

@@ -117,7 +117,7 @@ TEST(Simulation, RollsTheExactDistributions) {
 }
 
 TEST(Simulation, ReseedsForEachDieAndNotForARollOfTheSameDie) {
-    ScriptedRandom random{0.0, 0.99, 0.99, 0.5};  // 1; 6 and 6 and 4.
+    ScriptedRandom random({0.0, 0.99, 0.99, 0.5});  // 1; 6 and 6 and 4.
     SimulationOn<RandomSource> simulation(random);
     const std::vector<DiceGroup> groups = {{2, 6, 16}};
     std::string shown;

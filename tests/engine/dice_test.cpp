@@ -10,14 +10,6 @@ namespace {
 /// The random value in the middle of a face.
 double Face(int face, int sides) { return (face - 0.5) / sides; }
 
-std::string RollWith(ScriptedRandom& random, const std::string& notation) {
-    FakeHost host;
-    Dice dice(random, host, [] { return true; });
-    std::string total = dice.RollDice(notation);
-    EXPECT_EQ(random.Left(), 0U) << notation;
-    return total;
-}
-
 TEST(DiceNotation, ReadsCountSidesModifierAndOpenEnd) {
     const auto d6 = [](int face) { return Face(face, 6); };
     const struct {
@@ -44,11 +36,11 @@ TEST(DiceNotation, ReadsCountSidesModifierAndOpenEnd) {
         {"2d1~", {}, "Invalid dice!"},  // Would roll its highest face for ever.
     };
     for (const auto& c : cases) {
-        ScriptedRandom random{};
-        for (const double value : c.values) {
-            random.Add(value);
-        }
-        EXPECT_EQ(RollWith(random, c.notation), c.total) << c.notation;
+        ScriptedRandom random(c.values);
+        FakeHost host;
+        Dice dice(random, host, [] { return true; });
+        EXPECT_EQ(dice.RollDice(c.notation), c.total) << c.notation;
+        EXPECT_EQ(random.Left(), 0U) << c.notation;
     }
 }
 
@@ -67,7 +59,7 @@ TEST(DicePool, PastThirtyTwoBitsFailsAndALongRowCanBeEnded) {
 
 TEST(Randomness, IsIncreasedByClockMemoryAndSeed) {
     // One fresh value a figure: the tick, eight memory figures, and the last product.
-    ScriptedRandom random{0.5, 0.5, 0.5, 0.5, 0.5, 0.5, 0.5, 0.5, 0.5, 0.25};
+    ScriptedRandom random({0.5, 0.5, 0.5, 0.5, 0.5, 0.5, 0.5, 0.5, 0.5, 0.25});
     random.tickCount = 101;
     random.memory = {.structureLength = 10,
                      .memoryLoad = 20,
@@ -83,7 +75,7 @@ TEST(Randomness, IsIncreasedByClockMemoryAndSeed) {
     EXPECT_EQ(random.reseeds, std::vector<double>{62});
     EXPECT_TRUE(host.messages.empty());
 
-    ScriptedRandom broken{0.5, 0.5, 0.5, 0.5, 0.5, 0.5, 0.5, 0.5, 0.5, 0.5};
+    ScriptedRandom broken(std::vector<double>(10, 0.5));
     broken.memory.totalPhysical = 1e308 * 10;
     Dice(broken, host, [] { return true; }).IncreaseRandomness(0);
     EXPECT_TRUE(broken.reseeds.empty());

@@ -90,11 +90,6 @@ class RunRoundsTest : public testing::Test {
     int pieces = 0;
 };
 
-TEST_F(RunRoundsTest, LeavesAnEmptyLineBetweenResults) {
-    EXPECT_EQ(Run(1), "r1");
-    EXPECT_EQ(Run(3), "r1\r\n\r\nr2\r\n\r\nr3");
-}
-
 TEST_F(RunRoundsTest, EndsWithTheRoundThatWasAborted) {
     abortAt = 2;
     EXPECT_EQ(Run(1'000), "r1\r\n\r\nr2\r\n\r\nProcess Aborted!");

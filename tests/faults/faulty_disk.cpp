@@ -91,10 +91,10 @@ Function* Real(const char* name) {
     return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
 }
 
-/// The call, unless the disk fails.
-template <typename Call>
-auto Try(Verdict verdict, Call call) -> decltype(call()) {
-    return verdict == Verdict::Fail ? decltype(call())(-1) : call();
+/// Calls the function of that name, unless the disk fails.
+template <typename Result, typename... Arguments>
+Result Call(Verdict verdict, const char* name, Arguments... arguments) {
+    return verdict == Verdict::Fail ? Result(-1) : Real<Result(Arguments...)>(name)(arguments...);
 }
 
 std::size_t Half(Verdict verdict, std::size_t size) {
@@ -129,17 +129,16 @@ bool FaultyDisk::HasStruck() const {
 
 }  // namespace quenloft
 
+using quenloft::Call;
 using quenloft::DiskCall;
 using quenloft::JudgeFile;
 using quenloft::JudgePath;
 using quenloft::Real;
-using quenloft::Try;
 using quenloft::Verdict;
 
 extern "C" {
 
 int open(const char* path, int flags, ...) {
-    static const auto real = Real<int(const char*, int, ...)>("open");
     mode_t mode = 0;
     if ((flags & O_CREAT) != 0) {
         va_list arguments;
@@ -148,7 +147,9 @@ int open(const char* path, int flags, ...) {
         va_end(arguments);
     }
     const DiskCall call = (flags & O_CREAT) != 0 ? DiskCall::Create : DiskCall::Open;
-    const int file = Try(JudgePath(call, path), [&] { return real(path, flags, mode); });
+    const int file = JudgePath(call, path) == Verdict::Fail
+                         ? -1
+                         : Real<int(const char*, int, ...)>("open")(path, flags, mode);
     quenloft::Remember(file, path);
     return file;
 }
@@ -177,41 +178,32 @@ int closedir(DIR* folder) {
 }
 
 int stat(const char* path, struct stat* data) noexcept {
-    static const auto real = Real<int(const char*, struct stat*)>("stat");
-    return Try(JudgePath(DiskCall::Look, path), [&] { return real(path, data); });
+    return Call<int>(JudgePath(DiskCall::Look, path), "stat", path, data);
 }
 
 int lstat(const char* path, struct stat* data) noexcept {
-    static const auto real = Real<int(const char*, struct stat*)>("lstat");
-    return Try(JudgePath(DiskCall::Look, path), [&] { return real(path, data); });
+    return Call<int>(JudgePath(DiskCall::Look, path), "lstat", path, data);
 }
 
 int fstat(int file, struct stat* data) noexcept {
-    static const auto real = Real<int(int, struct stat*)>("fstat");
-    return Try(JudgeFile(DiskCall::Look, file), [&] { return real(file, data); });
+    return Call<int>(JudgeFile(DiskCall::Look, file), "fstat", file, data);
 }
 
 int faccessat(int folder, const char* path, int mode, int flags) noexcept {
-    static const auto real = Real<int(int, const char*, int, int)>("faccessat");
-    return Try(JudgePath(DiskCall::Look, path), [&] { return real(folder, path, mode, flags); });
+    return Call<int>(JudgePath(DiskCall::Look, path), "faccessat", folder, path, mode, flags);
 }
 
 ssize_t read(int file, void* buffer, std::size_t size) {
-    static const auto real = Real<decltype(read)>("read");
     const Verdict verdict = JudgeFile(DiskCall::Read, file);
-    return Try(verdict, [&] { return real(file, buffer, quenloft::Half(verdict, size)); });
+    return Call<ssize_t>(verdict, "read", file, buffer, quenloft::Half(verdict, size));
 }
 
 ssize_t write(int file, const void* bytes, std::size_t size) {
-    static const auto real = Real<decltype(write)>("write");
     const Verdict verdict = JudgeFile(DiskCall::Write, file);
-    return Try(verdict, [&] { return real(file, bytes, quenloft::Half(verdict, size)); });
+    return Call<ssize_t>(verdict, "write", file, bytes, quenloft::Half(verdict, size));
 }
 
-int fsync(int file) {
-    static const auto real = Real<decltype(fsync)>("fsync");
-    return Try(JudgeFile(DiskCall::Flush, file), [&] { return real(file); });
-}
+int fsync(int file) { return Call<int>(JudgeFile(DiskCall::Flush, file), "fsync", file); }
 
 int close(int file) {
     static const auto real = Real<decltype(close)>("close");
@@ -224,28 +216,23 @@ int close(int file) {
 }
 
 int rename(const char* from, const char* to) noexcept {
-    static const auto real = Real<int(const char*, const char*)>("rename");
-    return Try(JudgePath(DiskCall::Rename, from), [&] { return real(from, to); });
+    return Call<int>(JudgePath(DiskCall::Rename, from), "rename", from, to);
 }
 
 int unlink(const char* path) noexcept {
-    static const auto real = Real<int(const char*)>("unlink");
-    return Try(JudgePath(DiskCall::Delete, path), [&] { return real(path); });
+    return Call<int>(JudgePath(DiskCall::Delete, path), "unlink", path);
 }
 
 int mkdir(const char* path, mode_t mode) noexcept {
-    static const auto real = Real<int(const char*, mode_t)>("mkdir");
-    return Try(JudgePath(DiskCall::Create, path), [&] { return real(path, mode); });
+    return Call<int>(JudgePath(DiskCall::Create, path), "mkdir", path, mode);
 }
 
 int fchown(int file, uid_t user, gid_t group) noexcept {
-    static const auto real = Real<int(int, uid_t, gid_t)>("fchown");
-    return Try(JudgeFile(DiskCall::Own, file), [&] { return real(file, user, group); });
+    return Call<int>(JudgeFile(DiskCall::Own, file), "fchown", file, user, group);
 }
 
 int fchmod(int file, mode_t mode) noexcept {
-    static const auto real = Real<int(int, mode_t)>("fchmod");
-    return Try(JudgeFile(DiskCall::Own, file), [&] { return real(file, mode); });
+    return Call<int>(JudgeFile(DiskCall::Own, file), "fchmod", file, mode);
 }
 
 }  // extern "C"

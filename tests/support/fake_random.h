@@ -3,7 +3,6 @@
 
 #include <deque>
 #include <gtest/gtest.h>
-#include <initializer_list>
 #include <vector>
 
 #include "platform/random_source.h"
@@ -27,8 +26,8 @@ class ConstantRandom : public RandomSource {
 /// Gives exactly the values written down and records each reseeding; a value more is a failure.
 class ScriptedRandom : public RandomSource {
   public:
-    ScriptedRandom(std::initializer_list<double> values) : values_(values) {}
-    void Add(double value) { values_.push_back(value); }
+    explicit ScriptedRandom(const std::vector<double>& values)
+        : values_(values.begin(), values.end()) {}
 
     double Next() override {
         if (values_.empty()) {
