@@ -3,6 +3,7 @@
 #include <QPointer>
 #include <QShortcut>
 
+#include "author/plain_text.h"
 #include "author/rtf_writer.h"
 #include "platform/clipboard.h"
 #include "platform/dialogs.h"
@@ -81,6 +82,19 @@ void frmAuthor::PrintContent() {
         services.printer.PrintHtml(FromQt(ui_->rtfAuthor->document()->toHtml()));
     if (!failure.empty()) {
         services.dialogs.ShowMessage(failure, MessageIcon::Warning);
+    }
+}
+
+void frmAuthor::Copy() {
+    if (focusWidget() == ui_->rtfAuthor && ui_->rtfAuthor->textCursor().hasSelection()) {
+        workspace_.Services().clipboard.SetText(PlainTextOf(ui_->rtfAuthor->SelectedText()));
+    }
+}
+
+void frmAuthor::Cut() {
+    Copy();
+    if (focusWidget() == ui_->rtfAuthor) {
+        ui_->rtfAuthor->textCursor().removeSelectedText();
     }
 }
 

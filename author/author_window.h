@@ -26,7 +26,9 @@ class frmAuthor : public ChildWindow {
     void OpenFile() override;
     void Load(const std::string& path) override;
     void PrintContent() override;
-    /// The text without its form.
+    // Text without its form.
+    void Copy() override;
+    void Cut() override;
     void Paste() override;
     /// As RTF.
     std::optional<UnsavedWork> Unsaved() const override;

@@ -16,7 +16,32 @@ std::string_view TakeLine(std::string_view& text) {
     return line;
 }
 
+constexpr std::string_view kLineEnd = "\r\n";
+
+void AddLines(std::string& plain, std::string_view text) {
+    constexpr std::string_view kLineSeparator = "\xE2\x80\xA8";  // U+2028.
+    for (std::size_t end; (end = text.find(kLineSeparator)) != std::string_view::npos;) {
+        plain += text.substr(0, end);
+        plain += kLineEnd;
+        text.remove_prefix(end + kLineSeparator.size());
+    }
+    plain += text;
+}
+
 }  // namespace
+
+std::string PlainTextOf(const RichText& text) {
+    std::string plain;
+    for (const Paragraph& paragraph : text.paragraphs) {
+        if (&paragraph != &text.paragraphs.front()) {
+            plain += kLineEnd;
+        }
+        for (const TextRun& run : paragraph.runs) {
+            AddLines(plain, run.text);
+        }
+    }
+    return plain;
+}
 
 RtfContent ReadPlainText(std::string_view bytes) {
     if (bytes.starts_with("\xEF\xBB\xBF")) {

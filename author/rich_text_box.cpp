@@ -8,10 +8,12 @@
 #include <QTextList>
 #include <algorithm>
 
+#include "author/plain_text.h"
 #include "author/qt_formats.h"
 #include "author/rich_document.h"
 #include "author/rtf_reader.h"
 #include "author/rtf_writer.h"
+#include "platform/qt/qt_text.h"
 
 namespace quenloft {
 namespace {
@@ -99,6 +101,14 @@ RichText RichTextBox::Text() const { return TextOf(*document()); }
 void RichTextBox::SetText(const RichText& text) {
     ShowText(text, *document());
     moveCursor(QTextCursor::Start);
+}
+
+RichText RichTextBox::SelectedText() const {
+    QTextDocument part;
+    PrepareDocument(part);
+    part.setDefaultFont(document()->defaultFont());
+    QTextCursor(&part).insertFragment(textCursor().selection());
+    return TextOf(part);
 }
 
 void RichTextBox::PasteText(const QString& text) {
@@ -223,12 +233,9 @@ void RichTextBox::LeaveBackwards() {
 
 QMimeData* RichTextBox::createMimeDataFromSelection() const {
     QMimeData* data = QTextEdit::createMimeDataFromSelection();
-    QTextDocument part;
-    PrepareDocument(part);
-    part.setDefaultFont(document()->defaultFont());
-    QTextCursor(&part).insertFragment(textCursor().selection());
-    const std::string rtf = WriteRtf(TextOf(part));
-    data->setData(QLatin1String(kRtfTypes[0]), QByteArray::fromStdString(rtf));
+    const RichText text = SelectedText();
+    data->setText(ToQt(PlainTextOf(text)).remove(u'\r'));
+    data->setData(QLatin1String(kRtfTypes[0]), QByteArray::fromStdString(WriteRtf(text)));
     return data;
 }
 

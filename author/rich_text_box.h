@@ -20,6 +20,7 @@ class RichTextBox : public QTextEdit {
     /// undo.
     void SetText(const RichText& text);
 
+    RichText SelectedText() const;
     /// In the place of the selection, in the form that is there.
     void PasteText(const QString& text);
 

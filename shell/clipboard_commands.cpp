@@ -20,16 +20,7 @@ namespace quenloft {
 namespace {
 
 // Windows that do more than their text boxes do.
-struct OwnCommands {
-    const char* formName;
-    void (ChildWindow::*copy)();
-    void (ChildWindow::*cut)();
-    void (ChildWindow::*paste)();
-};
-constexpr OwnCommands kOwnCommands[] = {
-    {form::kEditTable, &ChildWindow::Copy, &ChildWindow::Cut, &ChildWindow::Paste},
-    {form::kAuthor, &ChildWindow::Copy, &ChildWindow::Cut, &ChildWindow::Paste},
-};
+constexpr const char* kOwnCommands[] = {form::kEditTable, form::kAuthor};
 
 // Windows whose arrays of buttons stand for the output boxes that they fill.
 constexpr const char* kButtonsStandForBoxes[] = {form::kLists};
@@ -38,12 +29,8 @@ constexpr const char* kButtonsStandForBoxes[] = {form::kLists};
 constexpr const char* kListResults[] = {form::kDice, form::kProbability,
                                         form::kShadowrunProbability, form::kDrovemark};
 
-void DoOwn(ChildWindow& child, void (ChildWindow::*OwnCommands::*command)()) {
-    for (const OwnCommands& own : kOwnCommands) {
-        if (child.FormName() == own.formName) {
-            (child.*(own.*command))();
-        }
-    }
+bool HasOwnCommands(const ChildWindow& child) {
+    return std::ranges::count(kOwnCommands, child.FormName()) > 0;
 }
 
 QPlainTextEdit* BoxOfButton(ChildWindow& child, QWidget* control) {
@@ -95,20 +82,6 @@ void CopyOrCutBox(QPlainTextEdit& box, Clipboard& clipboard, bool cut) {
     }
 }
 
-void CopyOrCutRich(QTextEdit& box, Clipboard& clipboard, bool cut) {
-    QTextCursor cursor = box.textCursor();
-    if (!cursor.hasSelection()) {
-        return;
-    }
-    constexpr QLatin1String kLineEnd("\r\n");
-    clipboard.SetText(FromQt(cursor.selectedText()
-                                 .replace(QChar::ParagraphSeparator, kLineEnd)
-                                 .replace(QChar::LineSeparator, kLineEnd)));
-    if (cut && !box.isReadOnly()) {
-        cursor.removeSelectedText();
-    }
-}
-
 void CopyResults(ChildWindow& child, Clipboard& clipboard) {
     const std::string results =
         std::ranges::count(kListResults, child.FormName()) > 0 ? child.Export() : std::string();
@@ -123,8 +96,6 @@ void CopyOrCut(ChildWindow& child, Clipboard& clipboard, bool cut) {
         CopyOrCutLine(*line, clipboard, cut);
     } else if (auto* box = qobject_cast<QPlainTextEdit*>(control)) {
         CopyOrCutBox(*box, clipboard, cut);
-    } else if (auto* rich = qobject_cast<QTextEdit*>(control)) {
-        CopyOrCutRich(*rich, clipboard, cut);
     } else if (QPlainTextEdit* output = BoxOfButton(child, control)) {
         CopyOrCutWhole(*output, clipboard, cut);
     } else if (!cut) {
@@ -152,21 +123,27 @@ void PasteText(QWidget* control, const QString& text) {
 void CopyFrom(ChildWindow* child, Clipboard& clipboard) {
     if (child) {
         CopyOrCut(*child, clipboard, false);
-        DoOwn(*child, &OwnCommands::copy);
+        if (HasOwnCommands(*child)) {
+            child->Copy();
+        }
     }
 }
 
 void CutFrom(ChildWindow* child, Clipboard& clipboard) {
     if (child) {
         CopyOrCut(*child, clipboard, true);
-        DoOwn(*child, &OwnCommands::cut);
+        if (HasOwnCommands(*child)) {
+            child->Cut();
+        }
     }
 }
 
 void PasteInto(ChildWindow* child, Clipboard& clipboard) {
     if (child) {
         PasteText(child->focusWidget(), ToQt(clipboard.GetText()));
-        DoOwn(*child, &OwnCommands::paste);
+        if (HasOwnCommands(*child)) {
+            child->Paste();
+        }
     }
 }
 

@@ -245,9 +245,15 @@ TEST_F(AuthorWindowTest, TheKeysKeepTheFormAndTheMenuDoesNot) {
     Choose(window, "mnuEdit_Copy");
     EXPECT_EQ(clipboard.text, "a\r\nz\r\n");
     box->clear();
-    clipboard.text = "<i>plain</i>";
+    const std::string word = "<i>" + std::string(5000, 'w');
+    clipboard.text = word;
     Choose(window, "mnuEdit_Paste");
-    EXPECT_EQ(Outline(), "<i>plain</i>");
+    EXPECT_EQ(Outline(), word);
+    clipboard.text.clear();
+    box->selectAll();
+    Choose(window, "mnuEdit_Cut");
+    EXPECT_EQ(clipboard.text, word);
+    EXPECT_EQ(Outline(), "");
 }
 
 TEST_F(AuthorWindowTest, PrintsTheFormattedText) {
