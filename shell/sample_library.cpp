@@ -1,6 +1,8 @@
 #include "shell/sample_library.h"
 
 #include <optional>
+#include <string>
+#include <vector>
 
 #include "platform/dialogs.h"
 #include "platform/file_system.h"
@@ -16,16 +18,28 @@ constexpr char kQuestion[] =
     "Quenloft comes with a sample library of tables and scripts. Copy it into a folder of your "
     "own, where you can change it?";
 
-void CopyFolder(FileSystem& files, const std::string& from, const std::string& to) {
-    files.CreateFolder(to);
-    files.LookAgain();
-    for (const FolderEntry& entry : files.ListFolder(from)) {
-        const std::string source = from + "/" + entry.name;
-        const std::string target = to + "/" + entry.name;
+// Folders and files below `folder`, each after the folder that it is in, relative to `root`.
+void AddContent(FileSystem& files, const std::string& root, const std::string& folder,
+                std::vector<FolderEntry>& content) {
+    for (const FolderEntry& entry : files.ListFolder(root + folder)) {
+        const std::string path = folder + "/" + entry.name;
+        content.push_back({path, entry.isFolder, entry.isHidden});
         if (entry.isFolder) {
-            CopyFolder(files, source, target);
+            AddContent(files, root, path, content);
+        }
+    }
+}
+
+void CopyFolder(FileSystem& files, const std::string& from, const std::string& to) {
+    // Looked at whole before anything is made: `to` may lie in `from`.
+    std::vector<FolderEntry> content;
+    AddContent(files, from, "", content);
+    files.CreateFolder(to);
+    for (const FolderEntry& entry : content) {
+        if (entry.isFolder) {
+            files.CreateFolder(to + entry.name);
         } else {
-            files.WriteBytes(target, files.ReadBytes(source));
+            files.WriteBytes(to + entry.name, files.ReadBytes(from + entry.name));
         }
     }
 }

@@ -85,6 +85,14 @@ TEST_F(FirstStart, CopiesTheSampleLibraryWhereTheUserWantsIt) {
     dialogs.TakeLog();
 }
 
+TEST_F(FirstStart, CopiesIntoAFolderOfTheSampleItself) {
+    dialogs.WillAnswer(Answer::Yes);
+    dialogs.WillGive(folder.Path("share/library/Places"));
+    OfferSampleLibrary(Services(), folder.Path("share"));
+    EXPECT_EQ(folder.Read("share/library/Places/Quenloft library/Places/inn.tbl"), "An inn");
+    dialogs.TakeLog();
+}
+
 TEST_F(FirstStart, ShowsTheInstalledSampleWhereNoCopyIsMade) {
     dialogs.WillAnswer(Answer::No);
     OfferSampleLibrary(Services(), folder.Path("share"));
