@@ -106,7 +106,7 @@ void frmListSingle::Edit() {
 
 void frmListSingle::Bind(TableSlot slot) {
     slot_ = std::move(slot);
-    setWindowTitle(tr("Single List %1").arg(ToQt(ShownTitle(slot_.title))));
+    setWindowTitle(tr("Single List %1").arg(InTitle(ShownTitle(slot_.title))));
     Refresh();
 }
 

@@ -66,7 +66,7 @@ void frmScript::OpenFile() {
 }
 
 void frmScript::Load(const std::string& path) {
-    setWindowTitle(tr("Script ..\\%1").arg(ToQt(Show(path))));
+    setWindowTitle(tr("Script ..\\%1").arg(InTitle(Show(path))));
 }
 
 void frmScript::Run() {
@@ -97,7 +97,8 @@ bool frmScript::ChooseScript() {
     if (path) {
         Show(*path);
         EnterFolder(services.engine, folder_);
-        setWindowTitle(tr("Script ..\\%1").arg(ToQt(FileName(services.files.AbsolutePath(*path)))));
+        setWindowTitle(
+            tr("Script ..\\%1").arg(InTitle(FileName(services.files.AbsolutePath(*path)))));
     }
     return path.has_value();
 }

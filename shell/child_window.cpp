@@ -8,6 +8,7 @@
 
 #include "engine/engine.h"
 #include "platform/dialogs.h"
+#include "platform/qt/qt_text.h"
 #include "shell/recovery/kept_text.h"
 #include "shell/workspace.h"
 
@@ -89,6 +90,10 @@ void ChildWindow::closeEvent(QCloseEvent* event) {
     }
     SaveState();
     event->accept();
+}
+
+QString ChildWindow::InTitle(std::string_view text) {
+    return ToQt(text).replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
 }
 
 bool ChildWindow::SaveOrGiveUp(const std::string& question, const std::function<bool()>& save) {

@@ -97,6 +97,9 @@ class ChildWindow : public QWidget {
     void showEvent(QShowEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
+    /// `text` as a part of a window's title, where "[*]" is the place of the mark of change.
+    static QString InTitle(std::string_view text);
+
     /// The answer to `question` whether to save: Yes calls `save`, which says whether it did. False
     /// where everything must stay as it is.
     bool SaveOrGiveUp(const std::string& question, const std::function<bool()>& save);

@@ -146,8 +146,7 @@ bool frmImportTable::ImportAs() {
 }
 
 void frmImportTable::Refresh() {
-    // In a caption "[*]" is the place of the mark of change, and twice is the text.
-    const QString name = ToQt(file_.Name()).replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
+    const QString name = InTitle(file_.Name());
     const QString caption = tr("Table Importer");
     setWindowTitle((name.isEmpty() ? caption : caption + QStringLiteral(" ..\\") + name) +
                    QStringLiteral("[*]"));

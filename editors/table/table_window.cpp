@@ -257,9 +257,7 @@ void frmEdit_Table::TellTooLong() {
 void frmEdit_Table::Refresh() {
     QString caption = tr("Table Editor");
     if (!file_.Path().empty()) {
-        // In a caption "[*]" is the place of the mark of change, and twice is the text.
-        QString name = ToQt(file_.Name());
-        caption += " (..\\" + name.replace("[*]", "[*][*]") + ")";
+        caption += " (..\\" + InTitle(file_.Name()) + ")";
     }
     setWindowTitle(caption + "[*]");
     setWindowModified(IsChanged());

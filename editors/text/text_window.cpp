@@ -191,8 +191,7 @@ void frmEdit::Refresh() {
     const std::string& path = file_.Path();
     QString caption = tr("Table & Script Editor");
     if (!path.empty()) {
-        caption += QStringLiteral(" ..\\") +
-                   ToQt(path).replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
+        caption += QStringLiteral(" ..\\") + InTitle(path);
     }
     setWindowTitle(caption + QStringLiteral("[*]"));
     setWindowModified(ui_->txtOut->document()->isModified());
