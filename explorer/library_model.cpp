@@ -152,8 +152,9 @@ QVariant LibraryModel::data(const QModelIndex& index, int role) const {
     }
     switch (role) {
         case Qt::DisplayRole:
-            return IsWanted(*node) ? tr("%1 (reading...)").arg(ToQt(node->item.label))
-                                   : ToQt(node->item.label);
+            return IsWanted(*node)         ? tr("%1 (reading...)").arg(ToQt(node->item.label))
+                   : node->failure.empty() ? ToQt(node->item.label)
+                                           : tr("%1 (cannot be read)").arg(ToQt(node->item.label));
         case Qt::DecorationRole: {
             const auto icon = icons_.find(node->item.kind);
             return icon == icons_.end() ? QVariant() : icon->second;
