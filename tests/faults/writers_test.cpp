@@ -12,17 +12,20 @@
 
 #include "author/rich_text_box.h"
 #include "editors/text/code_box.h"
+#include "editors/toolbox/quick_tables.h"
 #include "explorer/library_model.h"
 #include "generators/slot_page.h"
 #include "platform/qt/qt_printer.h"
 #include "shell/child_window.h"
 #include "shell/font_settings.h"
 #include "shell/form_names.h"
+#include "shell/recent_files.h"
 #include "shell/recovery/kept_text.h"
 #include "shell/recovery/recovery_folder.h"
 #include "shell/sample_library.h"
 #include "shell/settings_dialog.h"
 #include "shell/text_box.h"
+#include "shell/window_geometry.h"
 #include "shell/window_kinds.h"
 #include "tests/faults/faulty_disk.h"
 #include "tests/support/windows_fixture.h"
@@ -69,6 +72,7 @@ class Writers : public WindowsFixture {
     Writers() {
         dialogs.WillConfirmEveryMessage();
         ShowMainWindow(window);
+        folder.Write("quenloft.INI", "; mine\r\n[Other]\r\nkey=value\r\n");
     }
 
     /// By a call that no fault is about.
@@ -178,6 +182,21 @@ TEST_F(Writers, TextEditor) {
             [editor] { Click(*editor, "btnSave"); }, editor});
 }
 
+TEST_F(Writers, TextEditorIntoANewFile) {
+    ChildWindow* editor = window.Open(form::kEdit);
+    auto* box = editor->findChild<CodeBox*>();
+    const std::string path = folder.Path("new.spt");
+    TryAll({[&](int) {
+                std::filesystem::remove(path);
+                box->insertPlainText(QStringLiteral("x"));
+            },
+            [&] {
+                dialogs.WillGive(path);
+                Click(*editor, "btnSaveAs");
+            },
+            editor});
+}
+
 TEST_F(Writers, TableEditorThatKeepsTheFormerFile) {
     ChildWindow* editor = window.Open(form::kEditTable);
     TryAll({[&](int number) {
@@ -213,12 +232,24 @@ TEST_F(Writers, Author) {
             [author] { Click(*author, "btnSave"); }, author});
 }
 
-TEST_F(Writers, Export) {
-    window.Open(form::kDice);
+TEST_F(Writers, Exports) {
+    for (const char* name : {form::kEdit, form::kEditTable, form::kScript, form::kLists,
+                             form::kSingleList, form::kProbability, form::kDice, form::kExplorer}) {
+        SCOPED_TRACE(name);
+        TryAll({[&](int) { window.Open(name); },
+                [this] {
+                    dialogs.WillGive(folder.Path("export.txt"));
+                    Choose(window, "mnuFile_Export");
+                }});
+    }
+}
+
+TEST_F(Writers, AnalysisReport) {
+    ChildWindow* analysis = window.Open(form::kProbability);
     TryAll({[](int) {},
-            [this] {
-                dialogs.WillGive(folder.Path("export.txt"));
-                Choose(window, "mnuFile_Export");
+            [&] {
+                dialogs.WillGive(folder.Path("report.txt"));
+                Click(*analysis, "btnSaveResultTofile");
             }});
 }
 
@@ -241,7 +272,6 @@ TEST_F(Writers, PrintToFile) {
 TEST_F(Writers, Settings) {
     FontSettings fonts;
     std::unique_ptr<frmSettings> dialog;
-    folder.Write("quenloft.INI", "; mine\r\n[Other]\r\nkey=value\r\n");
     TryAll(
         {[&](int number) {
              dialog = std::make_unique<frmSettings>(Services(), fonts, &window);
@@ -253,13 +283,34 @@ TEST_F(Writers, Settings) {
 
 TEST_F(Writers, SlotsOfTheListPage) {
     SlotPage page;
-    folder.Write("quenloft.INI", "; mine\r\n[Other]\r\nkey=value\r\n");
     TryAll({[&](int number) {
                 for (int slot = 0; slot < 3; ++slot) {
                     page.Bind(slot, {folder.LibraryPath(std::to_string(number) + ".tbl"), "T", ""});
                 }
             },
             [&] { page.Save(files, profile); }});
+}
+
+TEST_F(Writers, SlotsOfTheToolbox) {
+    QuickTables tables;
+    TryAll({[&](int number) {
+                for (int slot = 0; slot < 3; ++slot) {
+                    tables.Bind(slot, engine, folder.LibraryPath(std::to_string(number) + ".tbl"));
+                }
+            },
+            [&] { tables.Save(profile); }});
+}
+
+TEST_F(Writers, RecentFiles) {
+    RecentFiles recent(profile);
+    TryAll({[&](int number) { recent.Add(folder.Path(std::to_string(number) + ".tbl")); },
+            [&] { recent.Save(); }});
+}
+
+TEST_F(Writers, PlaceOfTheMainWindow) {
+    constexpr int kWidth = 500;
+    TryAll({[&](int number) { window.resize(kWidth + number % 100, kWidth); },
+            [&] { SaveWindowGeometry(window, profile); }});
 }
 
 TEST_F(Writers, KeptTexts) {
