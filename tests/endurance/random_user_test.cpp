@@ -84,6 +84,7 @@ TEST_P(RandomUsers, DoNoHarm) {
         program.printer.printed.clear();
         program.printer.printedHtml.clear();
     }
+    StopWatching();
     if (actions > 0) {
         std::puts(user.Diary().c_str());
     }

@@ -22,4 +22,7 @@ inline void WatchAction(const std::string& action) {
     alarm(kSeconds);
 }
 
+/// Whatever comes now may take its time.
+inline void StopWatching() { alarm(0); }
+
 }  // namespace quenloft
