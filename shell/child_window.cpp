@@ -46,7 +46,8 @@ void ChildWindow::PutBack(const KeptText& /*kept*/) {}
 
 void ChildWindow::BringToFront() {
     auto* frame = qobject_cast<QMdiSubWindow*>(parentWidget());
-    if (!frame || !frame->mdiArea()) {
+    // What is closed during a run is no window of the area any more, and goes after the run.
+    if (!frame || !frame->mdiArea() || !frame->mdiArea()->subWindowList().contains(frame)) {
         return;
     }
     if (frame->isMinimized()) {

@@ -5,6 +5,8 @@
 #include <QMdiSubWindow>
 #include <QMenu>
 
+#include "shell/child_window.h"
+
 namespace quenloft {
 namespace {
 
@@ -49,12 +51,9 @@ void Fill(QMenu& menu, QMdiArea& area) {
         action->setObjectName(QLatin1String(kListEntry));
         action->setCheckable(true);
         action->setChecked(window == area.currentSubWindow());
-        QObject::connect(action, &QAction::triggered, window, [&area, window] {
-            if (window->isMinimized()) {
-                window->showNormal();
-            }
-            area.setActiveSubWindow(window);
-        });
+        if (auto* child = qobject_cast<ChildWindow*>(window->widget())) {
+            QObject::connect(action, &QAction::triggered, child, &ChildWindow::BringToFront);
+        }
     }
 }
 

@@ -2,10 +2,9 @@
 
 #include <QAbstractItemView>
 #include <QLineEdit>
-#include <QMdiArea>
-#include <QMdiSubWindow>
 #include <QTextEdit>
 
+#include "shell/child_window.h"
 #include "shell/text_box.h"
 
 namespace quenloft {
@@ -34,22 +33,18 @@ bool Insert(QWidget* target, const QString& text) {
     return grid && InsertIntoCell(*grid, text);
 }
 
-QMdiSubWindow* FrameOf(const QWidget& widget) {
+ChildWindow* WindowOf(const QWidget& widget) {
     for (QWidget* parent = widget.parentWidget(); parent; parent = parent->parentWidget()) {
-        if (auto* frame = qobject_cast<QMdiSubWindow*>(parent)) {
-            return frame;
+        if (auto* window = qobject_cast<ChildWindow*>(parent)) {
+            return window;
         }
     }
     return nullptr;
 }
 
 void GiveFocusTo(QWidget& target) {
-    QMdiSubWindow* frame = FrameOf(target);
-    if (frame && frame->mdiArea()) {
-        if (frame->isMinimized()) {
-            frame->showNormal();
-        }
-        frame->mdiArea()->setActiveSubWindow(frame);
+    if (ChildWindow* window = WindowOf(target)) {
+        window->BringToFront();
     }
     target.setFocus();
 }
