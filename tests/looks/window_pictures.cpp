@@ -112,7 +112,9 @@ int main(int argc, char** argv) {
         font.setPointSizeF(QString::fromLatin1(argv[3]).toDouble());
         QApplication::setFont(font);
     }
-    QDir().mkpath(QString::fromLocal8Bit(argv[1]));
-    quenloft::TakePictures(QDir(QString::fromLocal8Bit(argv[1])));
+    // The program changes the current directory.
+    const QDir folder(QDir().absoluteFilePath(QString::fromLocal8Bit(argv[1])));
+    folder.mkpath(QStringLiteral("."));
+    quenloft::TakePictures(folder);
     return 0;
 }
